@@ -1,0 +1,27 @@
+# Compiler and linker flags of all targets.
+
+if(MSVC)
+  add_compile_options(/W4 /WX /utf-8)
+  return()
+endif()
+
+add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Werror)
+
+# Hardening of release builds; tests/hardening.cmake checks that the program has it.
+if(CMAKE_BUILD_TYPE STREQUAL "Release" AND NOT KELMAR_SANITIZE)
+  add_compile_options(-U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2 -D_GLIBCXX_ASSERTIONS -fstack-protector-strong
+                      -fstack-clash-protection)
+  if(CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64")
+    add_compile_options(-fcf-protection)
+  endif()
+  if(NOT WIN32)
+    include(CheckPIESupported)
+    check_pie_supported()
+    add_link_options(-Wl,-z,relro,-z,now,-z,noexecstack)
+  endif()
+endif()
+
+if(KELMAR_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()

@@ -1,0 +1,34 @@
+// Reading a file from its beginning, a block at a time.
+#pragma once
+
+#include "file/error.h"
+#include "file/system.h"
+
+namespace file {
+
+// "cannot read x.mdb: Input/output error."
+std::string failure(std::string_view what, const std::string& path, std::error_code error);
+
+// An open file, closed with the object.
+class Input {
+ public:
+  // Throws Error when `path` is not a plain file that can be opened.
+  Input(System& system, std::string path);
+  ~Input();
+  Input(const Input&) = delete;
+  Input& operator=(const Input&) = delete;
+
+  // Reads at most `size` bytes, and none only at the end of the file. Throws Error.
+  std::size_t read(char* bytes, std::size_t size);
+  const std::string& path() const { return path_; }
+
+ private:
+  System& system_;
+  std::string path_;
+  Handle handle_ = 0;
+};
+
+// The whole content of a file of at most `limit` bytes; a larger one is an Error.
+std::string read_whole(System& system, const std::string& path, std::size_t limit);
+
+}  // namespace file
