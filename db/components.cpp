@@ -1,0 +1,74 @@
+#include "db/components.h"
+
+#include <algorithm>
+
+#include "db/text.h"
+
+namespace db {
+
+std::optional<std::string_view> site_name(double number) {
+  for (const Site& site : kSites)
+    if (site.number == number) return site.name;
+  return std::nullopt;
+}
+
+std::optional<double> site_number(std::string_view name) {
+  for (const Site& site : kSites)
+    if (site.name == name) return site.number;
+  return std::nullopt;
+}
+
+bool ComponentReader::next(Component& component) {
+  if (records_ == limit_ || fields_.at_end()) return false;
+  ++records_;
+  fields_.begin_record();
+  try {
+    Field unused;
+    cut_short_ = !fields_.next(component.number) || !fields_.next(component.name);
+    for (int i = 0; i < 4 && !cut_short_; ++i) cut_short_ = !fields_.next(unused);
+  } catch (const FieldError& error) {
+    fail(error.what());
+  }
+  return !cut_short_;
+}
+
+void ComponentReader::fail(const std::string& reason) const {
+  throw file::Error(fields_.path() + ", record " + std::to_string(records_) + ": " + reason + ".");
+}
+
+ComponentNames component_names(file::System& system, const std::string& path, std::span<const double> numbers) {
+  ComponentNames result{std::vector<std::optional<std::string>>(numbers.size()), ""};
+  std::size_t missing = numbers.size();
+  try {
+    ComponentReader reader(system, path, kLookupRecords);
+    for (Component component; missing > 0 && reader.next(component);) {
+      const auto number = component.number.number();
+      for (std::size_t i = 0; i < numbers.size(); ++i) {
+        if (result.names[i] || number != numbers[i]) continue;
+        result.names[i] = std::string(site_name(numbers[i]).value_or(component.name.text));
+        --missing;
+      }
+    }
+    if (missing > 0 && reader.cut_short()) reader.fail("the file ends inside the record");
+  } catch (const file::Error& error) {
+    result.failure = error.what();
+  }
+  return result;
+}
+
+FoundNumbers component_numbers(file::System& system, const std::string& path, std::span<const std::string> names,
+                               NameMatch match) {
+  FoundNumbers found;
+  ComponentReader reader(system, path, kLookupRecords);
+  for (Component component; reader.next(component);) {
+    const auto name = match == NameMatch::Trimmed ? trimmed(component.name.text) : component.name.text;
+    if (std::find(names.begin(), names.end(), name) == names.end()) continue;
+    const auto number = component.number.number();
+    if (!number) reader.fail("the number of " + std::string(name) + " is text");
+    found[std::string(name)].value = component.number.text.empty() ? std::nullopt : number;
+  }
+  if (reader.cut_short()) reader.fail("the file ends inside the record");
+  return found;
+}
+
+}  // namespace db

@@ -1,0 +1,33 @@
+// One field of a database file, as read: a view into the reader's block, converted only when asked for.
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include "db/number.h"
+
+namespace db {
+
+enum class FieldType { Empty, Number, Text };
+
+// `text` is the value without quotes and surrounding blanks. It is valid as long as its reader says.
+struct Field {
+  std::string_view text;
+  bool quoted = false;
+
+  // A quoted field is text, whatever it holds; `""` is a text too.
+  FieldType type() const {
+    if (quoted) return FieldType::Text;
+    if (text.empty()) return FieldType::Empty;
+    return parse_number(text) ? FieldType::Number : FieldType::Text;
+  }
+
+  // The value where a number is needed: an empty field counts as 0, and a text that reads as a number as that number.
+  // Nothing for any other text.
+  std::optional<double> number() const {
+    if (text.empty()) return quoted ? std::nullopt : std::optional<double>(0);
+    return parse_number(text);
+  }
+};
+
+}  // namespace db

@@ -1,0 +1,90 @@
+#include "db/field_reader.h"
+
+#include <cstring>
+
+namespace db {
+namespace {
+
+constexpr std::array<bool, 256> kEndsField = [] {
+  std::array<bool, 256> ends{};
+  ends[','] = ends['\r'] = ends['\n'] = true;
+  return ends;
+}();
+
+constexpr const char* kTooLong = "a field is longer than 64 KiB";
+
+bool ends_field(char c) { return kEndsField[static_cast<unsigned char>(c)]; }
+
+}  // namespace
+
+FieldReader::FieldReader(file::System& system, std::string path) : input_(system, std::move(path)) {
+  blocks_.push_back(std::make_unique_for_overwrite<Block>());
+  next_ = end_ = blocks_.back()->data();
+}
+
+void FieldReader::begin_record() {
+  if (blocks_.size() == 1) return;
+  spare_ = std::move(blocks_.front());
+  blocks_.erase(blocks_.begin(), blocks_.end() - 1);
+}
+
+// Reads another block behind the bytes from next_ on, which move to a new place; `at` moves with them. The old place
+// lives on for the fields of this record that point into it. False at the end of the file.
+bool FieldReader::refill(const char*& at) {
+  if (file_ended_) return false;
+  const std::size_t kept = static_cast<std::size_t>(end_ - next_), offset = static_cast<std::size_t>(at - next_);
+  if (kept > kLongestField) throw FieldError(kTooLong);
+  auto block = spare_ ? std::move(spare_) : std::make_unique_for_overwrite<Block>();
+  char* const start = block->data();
+  std::memcpy(start, next_, kept);
+  const std::size_t got = input_.read(start + kept, kBlock);
+  blocks_.push_back(std::move(block));
+  next_ = start;
+  at = start + offset;
+  end_ = start + kept + got;
+  start[kept + got] = '\n';
+  file_ended_ = got == 0;
+  return !file_ended_;
+}
+
+bool FieldReader::at_end() {
+  const char* at = next_;
+  return next_ == end_ && !refill(at);
+}
+
+bool FieldReader::next(Field& field) {
+  if (at_end()) return false;
+  // Every search stops at the line end behind the last byte read; there it goes on once more has been read.
+  const char* at = next_;
+  do
+    while (*at == ' ') ++at;
+  while (at == end_ && refill(at));
+
+  field.quoted = *at == '"';
+  if (field.quoted) ++at;
+  const std::ptrdiff_t before_text = at - next_;
+  if (field.quoted) {
+    do
+      while (*at != '"' && *at != '\r' && *at != '\n') ++at;
+    while (at == end_ && refill(at));
+    if (*at != '"') throw FieldError("a quoted text is not closed on its line");
+    field.text = {next_ + before_text, static_cast<std::size_t>(at - next_ - before_text)};
+  }
+  do
+    while (!ends_field(*at)) ++at;
+  while (at == end_ && refill(at));
+  if (at - next_ > static_cast<std::ptrdiff_t>(kLongestField)) throw FieldError(kTooLong);
+  if (!field.quoted) {
+    const char* end = at;
+    while (end != next_ + before_text && end[-1] == ' ') --end;
+    field.text = {next_ + before_text, static_cast<std::size_t>(end - next_ - before_text)};
+  }
+
+  next_ = at;
+  if (at == end_) return true;
+  const bool may_be_pair = *next_++ == '\r';
+  if (may_be_pair && !at_end() && *next_ == '\n') ++next_;
+  return true;
+}
+
+}  // namespace db

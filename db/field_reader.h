@@ -1,0 +1,53 @@
+// Walks forward through the fields of a database file, a block of bounded size at a time.
+// Fields are separated by commas and by line ends (CR LF, LF or CR), which mean the same. doc/file-format.md has it all.
+#pragma once
+
+#include <array>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "db/field.h"
+#include "file/input.h"
+
+namespace db {
+
+// What is wrong with a field, without file and record; the readers of records add those.
+class FieldError : public file::Error {
+  using Error::Error;
+};
+
+class FieldReader {
+ public:
+  static constexpr std::size_t kLongestField = 64 * 1024;  // bytes in the file, quotes and blanks included
+
+  // Throws file::Error when the file cannot be opened.
+  FieldReader(file::System& system, std::string path);
+
+  // Begins a record: the fields read before are no longer needed, and their views end here.
+  void begin_record();
+  // Whether nothing is left in the file. A last line without its end, or a comma at the very end, leaves nothing.
+  bool at_end();
+  // Reads the next field into `field`; false at the end of the file. The view holds until the next begin_record().
+  // Throws FieldError for a quoted text that is not closed on its line or a field above the limit, and file::Error for a
+  // failed read.
+  bool next(Field& field);
+
+  const std::string& path() const { return input_.path(); }
+
+ private:
+  // What is left of the last block, then a new one, then a line end that stops every search.
+  static constexpr std::size_t kBlock = 64 * 1024;
+  using Block = std::array<char, kLongestField + kBlock + 1>;
+
+  bool refill(const char*& at);
+
+  file::Input input_;
+  std::vector<std::unique_ptr<Block>> blocks_;  // those that fields of this record may point into; the last is current
+  std::unique_ptr<Block> spare_;
+  const char* next_;  // the first byte that belongs to no field yet
+  const char* end_;   // behind the last byte read
+  bool file_ended_ = false;
+};
+
+}  // namespace db

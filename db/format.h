@@ -1,0 +1,28 @@
+// The numbers and fixed texts of the file formats; doc/file-format.md tells the grammar and its reasons.
+#pragma once
+
+#include <string_view>
+
+namespace db {
+
+inline constexpr int kMaxRecords = 4000;  // read from a species database, the end marker counted as one
+inline constexpr int kMaxSpecies = kMaxRecords - 1;
+inline constexpr int kMaxPairs = 10;   // component pairs, and M.B. pairs, of a record that is read
+inline constexpr int kShownPairs = 8;  // of a species that the editor shows or builds
+inline constexpr int kMbBlock = 100;   // added to the number of components when an M.B. block follows
+
+inline constexpr int kLookupRecords = 400;   // of the component database, read by a lookup
+inline constexpr int kListingRecords = 500;  // of the component database, offered for a new species
+
+inline constexpr std::string_view kLineEnd = "\r\n";
+inline constexpr std::string_view kTrailer =
+    "0,\"\",0,0,0,0,0,0,0,0\r\n"
+    "0,0\r\n"
+    "0,\"For KELMAR\",0,0,0,0,0,0,0,0\r\n"
+    "0,0\r\n"
+    "0,\"\",0,0,0,0,0,0,0,0\r\n"
+    "0,0\r\n";
+
+inline constexpr std::string_view kNicaDonnan = "NICA-Donnan";
+
+}  // namespace db

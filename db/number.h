@@ -1,0 +1,27 @@
+// Numbers as the files hold them and as the window shows them. No locale, no stream: '.' is the decimal point everywhere.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace db {
+
+// The value of `text` when the whole of it is a number: an optional sign, digits with at most one point (also first or
+// last), an optional exponent as in 1E-05 or 1e5. Nothing for anything else: hexadecimal, infinity, a value that a
+// double cannot hold.
+std::optional<double> parse_number(std::string_view text);
+
+// Appends `value` as the files hold it: at most 15 significant digits, no zero before the point (.5, -.25), integral
+// values without a point (100), an exponent below 1E-04 and from 1E+15 on (1E-05, 1.5E+20); every zero is 0.
+void append_number(std::string& out, double value);
+std::string format_number(double value);
+
+// Whether `text` is just what append_number would make of its value, so that it can be copied as it stands.
+bool is_formatted(std::string_view text);
+
+// A number as the window shows it: as in a file, with one blank in the place of a sign that is not there.
+// numtext(3) is " 3", numtext(-.25) is "-.25".
+std::string numtext(double value);
+
+}  // namespace db

@@ -1,0 +1,37 @@
+// Writes the lines of a species database, the counterpart of species_reader.h.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "db/species_reader.h"
+
+namespace db {
+
+// One line: values between commas, without blanks.
+class LineWriter {
+ public:
+  explicit LineWriter(std::string& out) : out_(out) {}
+  LineWriter& number(double value);
+  LineWriter& text(std::string_view value);  // in double quotes; must hold neither a double quote nor a line end
+  LineWriter& empty();
+  // A field as read: its type stays, a number takes the form of this writer (1.50 becomes 1.5).
+  LineWriter& field(const Field& field);
+  void end() { out_ += kLineEnd; }
+
+ private:
+  void separate();
+
+  std::string& out_;
+  bool first_ = true;
+};
+
+// A record unchanged. Reading the result gives the same values.
+void append_record(std::string& out, const Record& record);
+
+// "NICA-Donnan" on a line of its own, and the like.
+void append_text_line(std::string& out, std::string_view text);
+
+void append_blm(std::string& out, const BlmFields& fields);
+
+}  // namespace db
