@@ -1,0 +1,44 @@
+#include "edit/choices.h"
+
+#include "db/components.h"
+#include "db/format.h"
+
+namespace edit {
+namespace {
+
+bool between(double n, double low, double high) { return n > low && n < high; }
+
+}  // namespace
+
+bool is_offered(double n, std::string_view isomodel, bool cdbfile) {
+  // Surface sites and their potentials belong to complexation, the isotherm sites from 1300 on to their model.
+  if (isomodel.empty() ? between(n, 1300, 1360) : between(n, 810, 860) || between(n, 1101, 1111)) return false;
+  if (isomodel == db::kNicaDonnan && between(n, 1300, 1340)) return false;
+  if (isomodel == "NICA" && (n > 1340 || between(n, 1300, 1320))) return false;
+  if (isomodel == "Langmuir-Freundlich" && (n > 1320 || between(n, 1300, 1310))) return false;
+  if (isomodel == "Langmuir" && n > 1310) return false;
+
+  if (n < 3 || between(n, 816, 859) || between(n, 1330, 1339) || (n >= 144 && n <= 149) || between(n, 916, 921) || n == 1104)
+    return false;
+  return cdbfile || !(n > 951 && n <= 1101);  // exchangers
+}
+
+Choices component_choices(file::System& system, const std::string& compdb, std::string_view isomodel, bool cdbfile) {
+  Choices choices;
+  try {
+    db::ComponentReader reader(system, compdb, db::kListingRecords);
+    for (db::Component component; reader.next(component);) {
+      const auto number = component.number.number();
+      if (number && is_offered(*number, isomodel, cdbfile))
+        choices.names.emplace_back(db::site_name(*number).value_or(component.name.text));
+    }
+  } catch (const file::Error& error) {
+    choices = {{},
+               std::string("The components cannot be listed: ") + error.what() +
+                   " Choose another component database, or mend this one."};
+  }
+  choices.names.emplace_back("H2O");
+  return choices;
+}
+
+}  // namespace edit

@@ -1,0 +1,107 @@
+#include "edit/display.h"
+
+#include <array>
+
+namespace edit {
+namespace {
+
+using db::numtext;
+
+class Display {
+ public:
+  Display(const db::SpeciesReader& reader, const db::Record& record, const Database& database)
+      : reader_(reader),
+        record_(record),
+        database_(database) {}
+
+  Shown shown(file::System& system, const std::string& compdb) {
+    show_by_kind();
+    show_common();
+    show_rows(system, compdb);
+    return std::move(shown_);
+  }
+
+ private:
+  double number(const db::Field& field, const std::string& what) const {
+    const auto value = field.number();
+    if (!value) reader_.fail("the " + what + " is \"" + std::string(field.text) + "\", not a number");
+    return *value;
+  }
+  double number(db::HeadField field, const char* what) const { return number(record_.head[field], what); }
+  std::string_view name() const { return record_.head[db::kName].text; }
+
+  void show_by_kind() {
+    const double id = number(db::kId, "ID number");
+    const IdRange range = range_of(id);
+    if (range == IdRange::Lk2 && name() != "/FA-" && name() != "/HA-") {
+      shown_.lk2_caption = "Lk2";
+    } else if (range == IdRange::Nica) {
+      shown_.m_ref = database_.isomodel == "NICA";
+      shown_.lk2_caption = id < 13299999 ? "m" : id < 13399999 ? "b" : "n";
+    } else if (database_.blifile) {
+      shown_.ksel = number(db::kLk2, "toxicity flag") == 0 ? " No" : " Yes";
+    }
+    if (!shown_.lk2_caption.empty()) shown_.lk2 = " " + numtext(number(db::kLk2, "second constant"));
+  }
+
+  void show_common() {
+    shown_.logk = " " + numtext(number(db::kLogK, "log K"));
+    shown_.dhr = " " + numtext(number(db::kDhr, "dHr"));
+    if (database_.isomodel == "NICA" || database_.cdbfile) shown_.ksel = " " + numtext(number(db::kKsel, "K-sel"));
+    shown_.name = name();
+    shown_.id = numtext(number(db::kId, "ID number"));
+    shown_.charge = numtext(number(db::kCharge, "charge"));
+    const double components = number(db::kComponents, "number of components");
+    shown_.nocomp = numtext(components > db::kMbBlock ? components - db::kMbBlock : components);
+  }
+
+  void show_rows(file::System& system, const std::string& compdb) {
+    auto pairs = record_.pairs();
+    if (pairs.size() > db::kShownPairs) {
+      shown_.notice = std::string(name()) + " has " + std::to_string(pairs.size()) +
+                      " components: the window holds eight, and the others stay in the database unseen. "
+                      "Change this species with a text editor.";
+      pairs = pairs.first(db::kShownPairs);
+    }
+    std::vector<double> compno;
+    for (const db::Pair& pair : pairs) compno.push_back(number(pair.compno, "component number"));
+    const auto found = compno.empty() ? db::ComponentNames() : db::component_names(system, compdb, compno);
+    if (!found.failure.empty())
+      shown_.notice = "The components are shown by number: " + found.failure +
+                      " Choose another component database, or mend this one." +
+                      (shown_.notice.empty() ? "" : " " + shown_.notice);
+    for (std::size_t i = 0; i < pairs.size(); ++i) {
+      Row row;
+      row.stoich = numtext(number(pairs[i].stoich, "stoichiometry"));
+      row.comp = found.names[i] ? *found.names[i] : "#" + db::format_number(compno[i]);
+      for (const db::Pair& mb : record_.mb_pairs())
+        if (mb.compno.number() == compno[i])
+          row.mbstoich = mb.stoich.type() == db::FieldType::Empty ? "" : numtext(number(mb.stoich, "M.B. stoichiometry"));
+      shown_.rows.push_back(std::move(row));
+    }
+  }
+
+  const db::SpeciesReader& reader_;
+  const db::Record& record_;
+  const Database& database_;
+  Shown shown_;
+};
+
+}  // namespace
+
+IdRange range_of(double id) {
+  if (id > 11000000 && id < 12999999) return IdRange::Lk2;
+  if (id > 13110000 && id < 13599999) return IdRange::Nica;
+  return IdRange::None;
+}
+
+std::optional<Shown> show_species(file::System& system, const std::string& dbname, const std::string& compdb,
+                                  std::string_view name, Database& database) {
+  db::SpeciesReader reader(system, dbname);
+  if (const auto model = reader.skip_leading_fields(database.blifile)) database.isomodel = *model;
+  while (const db::Record* record = reader.next())
+    if (record->head[db::kName].text == name) return Display(reader, *record, database).shown(system, compdb);
+  return std::nullopt;
+}
+
+}  // namespace edit

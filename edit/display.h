@@ -1,0 +1,47 @@
+// What the window shows of one species.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "db/components.h"
+#include "db/species_reader.h"
+
+namespace edit {
+
+// What decides which values a species shows, beside its record.
+struct Database {
+  std::string isomodel;   // isotherm model, or "NICA-Donnan", or none
+  bool blifile = false;   // BLM parameter database
+  bool cdbfile = false;   // counterion selectivity database
+  bool mbfields = false;  // M.B. stoichiometries are in use
+};
+
+// By its ID number, the meaning of a species' field 6. All bounds are strict: above the first, below the second number.
+enum class IdRange { None, Lk2, Nica };
+IdRange range_of(double id);
+
+struct Row {
+  std::string stoich, comp, mbstoich;
+};
+
+// Texts for the boxes; a value that the species does not show is nothing.
+struct Shown {
+  std::string id, name, logk, dhr, charge, nocomp;
+  std::optional<std::string> ksel;
+  std::optional<std::string> lk2;
+  std::string lk2_caption;  // "Lk2", "m", "b" or "n" when lk2 is shown
+  bool m_ref = false;       // K-sel is shown, as "m-ref"
+  std::vector<Row> rows;    // at most db::kShownPairs
+  std::string notice;       // what the user has to be told beside, or nothing
+};
+
+// Finds the species `name` in the database and looks its components up in `compdb`; nothing when there is none of that
+// name. For an isotherm or NICA-Donnan database the model in its leading field becomes `database.isomodel`, also when
+// the species is not found. Throws file::Error when the database cannot be read to the species, or the species holds
+// text where a number belongs.
+std::optional<Shown> show_species(file::System& system, const std::string& dbname, const std::string& compdb,
+                                  std::string_view name, Database& database);
+
+}  // namespace edit
