@@ -1,0 +1,191 @@
+#include "app/frmMaindb.h"
+
+#include "app/start_up.h"
+#include "db/kind.h"
+
+namespace app {
+namespace {
+
+constexpr std::string_view kDatabaseFilter =
+    "Complexation database files (*.MDB)|*.MDB|Counterion selectivity files (*.CDB)|*.CDB|"
+    "Isotherm database files (*.ISO)|*.ISO|NICA-Donnan database files (*.NIC)|*.NIC|BLM parameter files (*.BLI)|*.BLI";
+constexpr std::string_view kComponentFilter = "Kelmar database files (*.MDB)|*.MDB";
+
+constexpr const char* kModels[] = {"Linear Kd",           "Freundlich", "Extended Freundlich", "Langmuir", "Temkin",
+                                   "Langmuir-Freundlich", "NICA"};
+
+std::string_view logk_caption(std::string_view isomodel) {
+  if (isomodel == "Linear Kd") return "log Kd";
+  if (isomodel == "Freundlich" || isomodel == "Extended Freundlich") return "log KF";
+  if (isomodel == "Langmuir") return "log KL";
+  if (isomodel == "Langmuir-Freundlich") return "log KLF";
+  if (isomodel == "Temkin") return "log KT";
+  return "";
+}
+
+bool uses_mb(std::string_view isomodel) { return isomodel == "Freundlich" || isomodel == "Extended Freundlich"; }
+
+}  // namespace
+
+frmMaindb::frmMaindb(ui::Dialogs& dialogs, file::System& system) : dialogs_(dialogs), system_(system) {
+  for (const ui::ControlDef& def : window_def().controls) {
+    ui::Control control;
+    control.text = def.caption;
+    control.shown = def.shown;
+    window_.controls.push_back(std::move(control));
+  }
+}
+
+void frmMaindb::click(int control) {
+  switch (control) {
+    case lstReactions: return lstReactions_Click();
+    case cboIsoterm: return cboIsoterm_Click();
+    case cmdAddnew: return cmdAddnew_Click();
+    case cmdNextcomp: return cmdNextcomp_Click();
+    case cmdSuggest: return cmdSuggest_Click();
+    case cmdDelete: return cmdDelete_Click();
+    case cmdSavedb: return cmdSavedb_Click();
+    case cmdNewDb: return cmdNewDb_Click();
+    case cmdCompdb: return cmdCompdb_Click();
+    case mnuFileOpen: return mnuFileOpen_Click();
+    case mnuFileExit: return mnuFileExit_Click();
+    case cmdQuit: return cmdQuit_Click();
+    default: return;
+  }
+}
+
+void frmMaindb::Form_Load() {
+  state_.compdb = "comp.mdb";
+  std::string folder;
+  std::string drive;
+  try {
+    if (const auto error = system_.current_folder(folder))
+      throw file::Error("there is no current folder: " + error.message() + ".");
+    folder = working_folder(folder);
+    if (const auto error = system_.change_folder(folder))
+      throw file::Error("the folder cannot be entered: " + error.message() + ".");
+    drive = first_field(system_, "dabase.txt");
+  } catch (const file::Error& error) {
+    refuse("The editor cannot start in " + folder + ": " + error.what() + " Start it from Kelmar, in Kelmar's folder.");
+    window_.ended = true;
+    window_.status = 1;
+    return;
+  }
+  state_.cdbfile = false;
+  // Whatever of the hand-over fails is left undone in silence: the user can open a database by the menu.
+  if (drive.empty() || !system_.change_drive(drive.front())) {
+    if (!system_.change_folder(folder)) {
+      state_.dialog_folder = folder;
+      try {
+        state_.dbname = first_field(system_, "sorptemp.dat");
+        system_.remove("sorptemp.dat");
+      } catch (const file::Error&) {
+      }
+    }
+  }
+  show({lblNameDb});
+  set(lblNameDb, state_.dbname);
+  show_kind_controls();
+  window_[cboIsoterm].entries.assign(std::begin(kModels), std::end(kModels));
+  Listfill();
+}
+
+// The flags of the open database's kind, and what a counterion selectivity database shows.
+void frmMaindb::show_kind_controls() {
+  const db::Kind kind = db::kind_of(state_.dbname);
+  state_.blifile = kind == db::Kind::Blm;
+  state_.cdbfile = kind == db::Kind::Counterion;
+  if (state_.cdbfile && !db::is_donnica(state_.dbname)) show({txtKsel, lblKsel});
+}
+
+void frmMaindb::Listfill() {
+  ui::Control& list = window_[lstReactions];
+  list.entries.clear();
+  list.selected = -1;
+  show({txtdhr, lbldhr});
+  set(lbldhr, "dHr (kJ/mol)");
+  // Any failure ends the loading here in silence; the list keeps what it got.
+  try {
+    db::SpeciesReader reader(system_, state_.dbname);
+    state_.mbfields = false;
+    const db::Kind kind = db::kind_of(state_.dbname);
+    if (kind != db::Kind::Isotherm) {
+      set(lblLogk, "log K");
+      hide({lblMA, lblMB, lblMBnote});
+    }
+    if (kind == db::Kind::NicaDonnan) reader.read_model();
+    if (kind == db::Kind::Isotherm) {
+      show_model(reader.read_model());
+    } else if (state_.blifile) {
+      show({txtf50, lblIsoterm, lblKsel, txtKsel});
+      set(lblIsoterm, "Critical f value");
+      set(lblKsel, "Contributes to toxicity");
+    }
+    if (state_.blifile) set(txtf50, db::numtext(reader.read_blm().critical_f));
+    while (const db::Record* record = reader.next()) list.entries.emplace_back(record->head[db::kName].text);
+  } catch (const file::Error&) {
+  }
+}
+
+// The controls of an isotherm database; a model picked by the user goes before the one in the file.
+void frmMaindb::show_model(const std::string& model_in_file) {
+  state_.isomodel = model_in_file;
+  if (state_.isoselect.empty())
+    state_.isoselect = state_.isomodel;
+  else
+    state_.isomodel = state_.isoselect;
+  show({cboIsoterm, lblIsoterm});
+  set(lblIsoterm, "Isotherm model");
+  set(cboIsoterm, state_.isomodel);
+  if (state_.isomodel == "NICA")
+    set(lbldhr, "p");
+  else
+    hide({txtdhr, lbldhr, txtKsel, lblKsel});
+  if (const auto caption = logk_caption(state_.isomodel); !caption.empty()) set(lblLogk, std::string(caption));
+  state_.mbfields = uses_mb(state_.isomodel);
+  set_shown({lblMA, lblMB, lblMBnote}, state_.mbfields);
+}
+
+void frmMaindb::mnuFileOpen_Click() {
+  const auto chosen =
+      dialogs_.choose_file({.form = ui::FileRequest::Form::Open, .filter = kDatabaseFilter, .folder = state_.dialog_folder});
+  if (!chosen) return;
+  state_.isomodel.clear();
+  state_.isoselect.clear();
+  hide({lblKsel, txtKsel, txtf50, lblIsoterm, cboIsoterm});
+  state_.dbname = *chosen;
+  show({lblNameDb});
+  set(lblNameDb, state_.dbname);
+  show_kind_controls();
+  if (state_.cdbfile && !db::is_donnica(state_.dbname)) set(lblKsel, "Selectivity coefficient (K-sel)");
+  Listfill();
+}
+
+void frmMaindb::cmdCompdb_Click() {
+  const auto chosen = dialogs_.choose_file(
+      {.form = ui::FileRequest::Form::Save, .filter = kComponentFilter, .folder = state_.dialog_folder});
+  if (chosen) state_.compdb = *chosen;
+}
+
+void frmMaindb::cboIsoterm_Click() {
+  state_.isoselect = text(cboIsoterm);
+  Listfill();
+}
+
+void frmMaindb::mnuFileExit_Click() { window_.ended = true; }
+
+void frmMaindb::cmdQuit_Click() { window_.ended = true; }
+
+void frmMaindb::set_shown(std::initializer_list<int> controls, bool shown) {
+  for (const int control : controls) window_[control].shown = shown;
+}
+
+void frmMaindb::refuse(std::string_view prompt, std::string_view title) {
+  dialogs_.message(prompt, title, ui::Icon::Critical, ui::Buttons::Ok);
+}
+
+bool frmMaindb::confirm(std::string_view prompt, std::string_view title) {
+  return dialogs_.message(prompt, title, ui::Icon::Question, ui::Buttons::YesNo) == ui::Answer::Yes;
+}
+
+}  // namespace app

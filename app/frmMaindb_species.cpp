@@ -1,0 +1,169 @@
+#include <algorithm>
+
+#include "app/frmMaindb.h"
+#include "db/number.h"
+#include "db/text.h"
+#include "edit/choices.h"
+
+namespace app {
+namespace {
+
+std::string component_caption(const std::string& number) { return "Component no. " + number; }
+
+}  // namespace
+
+void frmMaindb::lstReactions_Click() {
+  if (state_.suggestrun) return;
+  hide_rows();
+  hide({lblLk2, txtLk2});
+  edit::Database open = database();
+  std::optional<edit::Shown> shown;
+  std::string failure;
+  try {
+    shown = edit::show_species(system_, state_.dbname, state_.compdb, selected_species(), open);
+  } catch (const file::Error& error) {
+    failure = std::string("The species cannot be shown: ") + error.what() +
+              " Mend the file with a text editor, or open another one.";
+  }
+  state_.isomodel = open.isomodel;
+  if (shown) show_values(*shown);
+  if (shown && !shown->notice.empty()) refuse(shown->notice);
+  if (failure.empty()) return;
+  for (const int box : {txtID, txtName, txtlogk, txtLk2, txtdhr, txtKsel, txtCharge, txtNocomp}) set(box, "");
+  hide({cmdDelete});
+  refuse(failure);
+}
+
+void frmMaindb::show_values(const edit::Shown& shown) {
+  if (shown.lk2) {
+    show({txtLk2, lblLk2});
+    set(lblLk2, shown.lk2_caption);
+    set(txtLk2, *shown.lk2);
+  }
+  if (shown.m_ref) {
+    show({txtKsel, lblKsel});
+    set(lblKsel, "m-ref");
+  }
+  if (shown.ksel) set(txtKsel, *shown.ksel);
+  set(txtlogk, shown.logk);
+  set(txtdhr, shown.dhr);
+  set(txtName, shown.name);
+  set(txtID, shown.id);
+  set(txtCharge, shown.charge);
+  set(txtNocomp, shown.nocomp);
+  int i = 0;
+  for (const edit::Row& row : shown.rows) {
+    ++i;
+    if (state_.mbfields) {
+      show({txtMBstoich(i)});
+      set(txtMBstoich(i), row.mbstoich);
+    }
+    show({lblStoich(i), txtComp(i), txtStoich(i)});
+    set(txtStoich(i), row.stoich);
+    set(txtComp(i), row.comp);
+  }
+  show({cmdDelete});
+}
+
+void frmMaindb::cmdAddnew_Click() {
+  show({lblAddnew, lblComp, txtSpname, cboComp, lblSpname, cmdNextcomp, txtStoicn, cmdSuggest});
+  hide({cmdDelete, lblLk2, txtLk2});
+  if (state_.mbfields) show({lblMAnote});
+  set(txtSpname, "");
+  set(lblComp, component_caption("1"));
+  edit::Choices choices = edit::component_choices(system_, state_.compdb, state_.isomodel, state_.cdbfile);
+  window_[cboComp].entries = std::move(choices.names);
+  empty_rows();
+  select_species("");
+  for (const int box : {txtName, txtID, txtlogk, txtKsel, txtdhr, txtCharge}) set(box, "");
+  set(txtNocomp, "0");
+  state_.compslot = 1;
+  if (!choices.failure.empty()) refuse(choices.failure);
+}
+
+void frmMaindb::cmdNextcomp_Click() {
+  if (!refuse_ninth_component()) take_pending_component();
+}
+
+bool frmMaindb::refuse_ninth_component() {
+  if (state_.compslot <= kRows) return false;
+  refuse("A species has at most eight components. Save this one, or start again with \"Add new species\".");
+  return true;
+}
+
+void frmMaindb::take_pending_component() {
+  const int k = state_.compslot;
+  show({txtComp(k), txtStoich(k), lblStoich(k)});
+  if (state_.mbfields) show({txtMBstoich(k)});
+  set(txtComp(k), text(cboComp));
+  set(txtStoich(k), text(txtStoicn));
+  set(txtStoicn, "");
+  set(cboComp, "");
+  ++state_.compslot;
+  set(lblComp, component_caption(db::numtext(state_.compslot)));
+}
+
+void frmMaindb::cmdSuggest_Click() {
+  const bool pending = !text(cboComp).empty() && !text(txtStoicn).empty();
+  if (pending && refuse_ninth_component()) return;
+  state_.suggestrun = true;
+  window_[lstReactions].entries.push_back(text(txtSpname));
+  select_species(text(txtSpname));
+  set(txtName, text(txtSpname));
+  if (pending) take_pending_component();
+  set(txtNocomp, db::numtext(state_.compslot - 1));
+
+  std::string failure;
+  try {
+    edit::numgenerator2(system_, state_.compdb, text(txtComp(1)), text(txtComp(2)), state_.idcompno);
+    state_.idcompno = edit::with_site(state_.idcompno, state_.isomodel, text(txtComp(1)));
+    const edit::FreeId candidates(state_.idcompno);
+    if (edit::range_of(candidates.first_candidate()) != edit::IdRange::None) {
+      show({txtLk2, lblLk2});
+      set(txtLk2, " 0");
+      if (state_.isomodel == "NICA") {
+        show({txtKsel});
+        set(txtdhr, " 0");
+        set(txtKsel, " 0");
+      }
+    }
+    set(txtID, db::numtext(edit::first_free_id(system_, state_.dbname, state_.blifile, candidates)));
+  } catch (const file::Error& error) {
+    failure = std::string("No ID number can be suggested: ") + error.what() +
+              " Type an ID number, or mend the file and try again.";
+  }
+  state_.suggestrun = false;
+  if (!failure.empty()) refuse(failure);
+}
+
+void frmMaindb::Newspecdelete() {
+  set(txtSpname, "");
+  hide({txtSpname, lblAddnew, txtStoicn, lblSpname, lblComp, cboComp, cmdNextcomp, cmdSuggest, lblMAnote});
+}
+
+void frmMaindb::hide_rows() {
+  for (int i = 1; i <= kRows; ++i) hide({lblStoich(i), txtMBstoich(i), txtComp(i), txtStoich(i)});
+}
+
+void frmMaindb::empty_rows() {
+  hide_rows();
+  for (int i = 1; i <= kRows; ++i)
+    for (const int box : {txtStoich(i), txtMBstoich(i), txtComp(i)}) set(box, "");
+}
+
+// The first entry with this text; none for the empty text.
+void frmMaindb::select_species(std::string_view text) {
+  ui::Control& list = window_[lstReactions];
+  const auto found = std::find(list.entries.begin(), list.entries.end(), text);
+  list.selected = text.empty() || found == list.entries.end() ? -1 : static_cast<int>(found - list.entries.begin());
+}
+
+void frmMaindb::remove_selected_species() {
+  ui::Control& list = window_[lstReactions];
+  if (list.selected >= 0) list.entries.erase(list.entries.begin() + list.selected);
+  list.selected = -1;
+}
+
+std::string frmMaindb::selected_species() const { return std::string(db::trimmed(window_[lstReactions].selected_text())); }
+
+}  // namespace app

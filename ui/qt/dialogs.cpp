@@ -1,0 +1,61 @@
+#include "ui/qt/dialogs.h"
+
+#include <QFile>
+#include <QFileDialog>
+#include <QMessageBox>
+
+#include "ui/qt/text.h"
+
+namespace ui::qt {
+namespace {
+
+// "Text (*.MDB)|*.MDB|..." as the toolkit writes it, each pattern in upper and lower case: "Text (*.MDB) (*.MDB *.mdb)".
+QStringList name_filters(std::string_view filter) {
+  const QStringList parts = from_bytes(filter).split('|');
+  QStringList filters;
+  for (qsizetype i = 0; i + 1 < parts.size(); i += 2)
+    filters += parts[i] + " (" + parts[i + 1].toUpper() + " " + parts[i + 1].toLower() + ")";
+  return filters;
+}
+
+}  // namespace
+
+void QtDialogs::stand_before(QWidget* parent, std::function<void()> push) {
+  parent_ = parent;
+  push_ = std::move(push);
+}
+
+Answer QtDialogs::message(std::string_view prompt, std::string_view title, Icon icon, Buttons buttons) {
+  push_();
+  QMessageBox box(parent_);
+  box.setWindowTitle(from_bytes(title));
+  box.setTextFormat(Qt::PlainText);
+  box.setText(from_path(prompt));
+  box.setIcon(icon == Icon::Critical ? QMessageBox::Critical : QMessageBox::Question);
+  if (buttons == Buttons::Ok) {
+    box.setStandardButtons(QMessageBox::Ok);
+    box.exec();
+    return Answer::Ok;
+  }
+  box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+  box.setEscapeButton(QMessageBox::No);
+  box.setDefaultButton(QMessageBox::No);  // every question is about data that would be gone
+  return box.exec() == QMessageBox::Yes ? Answer::Yes : Answer::No;
+}
+
+std::optional<std::string> QtDialogs::choose_file(const FileRequest& request) {
+  push_();
+  QFileDialog dialog(parent_);
+  const bool opens = request.form == FileRequest::Form::Open;
+  dialog.setAcceptMode(opens ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
+  dialog.setFileMode(opens ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+  dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.writes);
+  const QStringList filters = name_filters(request.filter);
+  dialog.setNameFilters(filters);
+  if (request.writes) dialog.setDefaultSuffix(from_bytes(request.filter).section('.', -1));
+  if (!request.folder.empty()) dialog.setDirectory(QFile::decodeName(request.folder.c_str()));
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+  return QFile::encodeName(dialog.selectedFiles().constFirst()).toStdString();
+}
+
+}  // namespace ui::qt

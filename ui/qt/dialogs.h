@@ -1,0 +1,25 @@
+// Message boxes and file dialogs: the desktop's own.
+#pragma once
+
+#include <functional>
+
+#include "ui/dialogs.h"
+
+class QWidget;
+
+namespace ui::qt {
+
+class QtDialogs final : public Dialogs {
+ public:
+  // What stands behind a dialog: its parent, and a call that brings it up to date first.
+  void stand_before(QWidget* parent, std::function<void()> push);
+
+  Answer message(std::string_view prompt, std::string_view title, Icon icon, Buttons buttons) override;
+  std::optional<std::string> choose_file(const FileRequest& request) override;
+
+ private:
+  QWidget* parent_ = nullptr;
+  std::function<void()> push_ = [] {};
+};
+
+}  // namespace ui::qt

@@ -1,0 +1,134 @@
+#include "ui/qt/widgets.h"
+
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QWheelEvent>
+
+#include "ui/qt/text.h"
+
+namespace ui::qt {
+
+Caption::Caption(QWidget* parent, bool path) : QLabel(parent), path_(path) {
+  setTextFormat(Qt::PlainText);
+  setContentsMargins(kLabelIndent, 0, 0, 0);
+}
+
+void Caption::set_covered(bool covered) {
+  if (covered_ == covered) return;
+  covered_ = covered;
+  update();
+}
+
+bool Caption::is_shortened() const {
+  return !wordWrap() && fontMetrics().horizontalAdvance(text()) > contentsRect().width();
+}
+
+void Caption::paintEvent(QPaintEvent* event) {
+  if (covered_) return;
+  if (!is_shortened()) return QLabel::paintEvent(event);
+  QPainter painter(this);
+  const auto cut = path_ ? Qt::ElideMiddle : Qt::ElideRight;
+  const QRect inside = contentsRect();
+  painter.drawText(inside, static_cast<int>(alignment()), fontMetrics().elidedText(text(), cut, inside.width()));
+}
+
+QValidator::State CodePageValidator::validate(QString& input, int& position) const {
+  int lost = 0;
+  const QString taken = from_bytes(to_bytes(input, &lost));
+  if (lost > 0) {
+    position -= static_cast<int>(input.size() - taken.size());
+    input = taken;
+    emit left_out();
+  }
+  return Acceptable;
+}
+
+void EntryModel::set_entries(std::vector<std::string> entries) {
+  beginResetModel();
+  entries_ = std::move(entries);
+  endResetModel();
+}
+
+int EntryModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(entries_.size());
+}
+
+QVariant EntryModel::data(const QModelIndex& index, int role) const {
+  if (role != Qt::DisplayRole && role != Qt::AccessibleTextRole) return {};
+  return from_bytes(entries_[static_cast<std::size_t>(index.row())]);
+}
+
+EntryList::EntryList(QWidget* parent) : QListView(parent), model_(this) {
+  setModel(&model_);
+  setUniformItemSizes(true);  // or every row is measured
+  setEditTriggers(NoEditTriggers);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+}
+
+void EntryList::show_entries(const std::vector<std::string>& entries, int selected) {
+  pushing_ = true;
+  model_.set_entries(entries);
+  pushing_ = false;
+  show_selected(selected);
+}
+
+void EntryList::show_selected(int selected) {
+  pushing_ = true;
+  if (selected < 0) {
+    selectionModel()->clear();
+  } else {
+    setCurrentIndex(model_.index(selected));
+    scrollTo(currentIndex());
+  }
+  pushing_ = false;
+}
+
+void EntryList::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+  QListView::currentChanged(current, previous);
+  if (pushing_ || !current.isValid()) return;
+  changed_ = true;
+  // Once the toolkit is done with the event: the handler may ask something and wait for the answer.
+  QMetaObject::invokeMethod(
+      this, [this, entry = current.row()] { emit chosen(entry); }, Qt::QueuedConnection);
+}
+
+void EntryList::mousePressEvent(QMouseEvent* event) {
+  changed_ = false;
+  QListView::mousePressEvent(event);
+  const QModelIndex pressed = indexAt(event->position().toPoint());
+  if (!changed_ && pressed.isValid() && event->button() == Qt::LeftButton) currentChanged(pressed, pressed);
+}
+
+void EntryList::keyPressEvent(QKeyEvent* event) {
+  const bool again = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (again && currentIndex().isValid())
+    currentChanged(currentIndex(), currentIndex());
+  else
+    QListView::keyPressEvent(event);
+}
+
+PickBox::PickBox(QWidget* parent) : QComboBox(parent) {
+  setEditable(true);
+  setInsertPolicy(NoInsert);
+  setCompleter(nullptr);  // what the user types stays what it is
+  setFocusPolicy(Qt::StrongFocus);
+}
+
+void PickBox::show_entries(const std::vector<std::string>& entries) {
+  const QString text = currentText();
+  clear();
+  for (const std::string& entry : entries) addItem(from_bytes(entry));
+  setCurrentIndex(-1);
+  setEditText(text);
+}
+
+void PickBox::wheelEvent(QWheelEvent* event) {
+  if (hasFocus())
+    QComboBox::wheelEvent(event);
+  else
+    event->ignore();
+}
+
+}  // namespace ui::qt

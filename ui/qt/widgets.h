@@ -1,0 +1,91 @@
+// The few widgets that differ from the toolkit's own.
+#pragma once
+
+#include <QAbstractListModel>
+#include <QComboBox>
+#include <QLabel>
+#include <QListView>
+#include <QValidator>
+#include <string>
+#include <vector>
+
+namespace ui::qt {
+
+inline constexpr int kLabelIndent = 3;  // pixels; keeps a label's text from touching what stands left of it
+
+// A label that shows a text too long for it shortened, and whole in its tooltip; or nothing, where boxes lie over it.
+class Caption : public QLabel {
+  Q_OBJECT
+ public:
+  Caption(QWidget* parent, bool path);
+  void set_covered(bool covered);
+  bool is_covered() const { return covered_; }
+  bool is_shortened() const;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  bool path_;
+  bool covered_ = false;
+};
+
+// Lets only characters of the code page into a text box.
+class CodePageValidator : public QValidator {
+  Q_OBJECT
+ public:
+  using QValidator::QValidator;
+  State validate(QString& input, int& position) const override;
+
+ signals:
+  void left_out() const;
+};
+
+// The entries are the form's own bytes, made into text when they come into view.
+class EntryModel : public QAbstractListModel {
+  Q_OBJECT
+ public:
+  using QAbstractListModel::QAbstractListModel;
+  void set_entries(std::vector<std::string> entries);
+  int rowCount(const QModelIndex& parent = {}) const override;
+  QVariant data(const QModelIndex& index, int role) const override;
+
+ private:
+  std::vector<std::string> entries_;
+};
+
+// A list of which an entry is chosen by mouse, keys, typing its first letters, or a screen reader; the entry chosen
+// already can be chosen again.
+class EntryList : public QListView {
+  Q_OBJECT
+ public:
+  explicit EntryList(QWidget* parent);
+  void show_entries(const std::vector<std::string>& entries, int selected);
+  void show_selected(int selected);
+
+ signals:
+  void chosen(int entry);
+
+ protected:
+  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  EntryModel model_;
+  bool pushing_ = false;
+  bool changed_ = false;
+};
+
+// A combo box that the wheel does not change while the user scrolls past it.
+class PickBox : public QComboBox {
+  Q_OBJECT
+ public:
+  explicit PickBox(QWidget* parent);
+  void show_entries(const std::vector<std::string>& entries);
+
+ protected:
+  void wheelEvent(QWheelEvent* event) override;
+};
+
+}  // namespace ui::qt
