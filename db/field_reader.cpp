@@ -28,21 +28,26 @@ void FieldReader::begin_record() {
   blocks_.erase(blocks_.begin(), blocks_.end() - 1);
 }
 
-// Reads another block behind the bytes from next_ on, which move to a new place; `at` moves with them. The old place
-// lives on for the fields of this record that point into it. False at the end of the file.
+// Reads on behind the last byte. When the block is full, a new one begins with the bytes from next_ on, and `at` moves with
+// them; the old one lives on for the fields of this record that point into it. False at the end of the file.
 bool FieldReader::refill(const char*& at) {
   if (file_ended_) return false;
-  const std::size_t kept = static_cast<std::size_t>(end_ - next_), offset = static_cast<std::size_t>(at - next_);
-  if (kept > kLongestField) throw FieldError(kTooLong);
-  auto block = spare_ ? std::move(spare_) : std::make_unique_for_overwrite<Block>();
-  char* const start = block->data();
-  std::memcpy(start, next_, kept);
-  const std::size_t got = input_.read(start + kept, kBlock);
-  blocks_.push_back(std::move(block));
-  next_ = start;
-  at = start + offset;
-  end_ = start + kept + got;
-  start[kept + got] = '\n';
+  Block* block = blocks_.back().get();
+  std::size_t used = static_cast<std::size_t>(end_ - block->data());
+  if (block->size() - 1 - used < kLeastRead) {
+    const std::size_t kept = static_cast<std::size_t>(end_ - next_);
+    if (kept > kLongestField) throw FieldError(kTooLong);
+    const std::ptrdiff_t offset = at - next_;
+    blocks_.push_back(spare_ ? std::move(spare_) : std::make_unique_for_overwrite<Block>());
+    block = blocks_.back().get();
+    std::memcpy(block->data(), next_, kept);
+    next_ = block->data();
+    at = next_ + offset;
+    used = kept;
+  }
+  const std::size_t got = input_.read(block->data() + used, block->size() - 1 - used);
+  end_ = block->data() + used + got;
+  (*block)[used + got] = '\n';
   file_ended_ = got == 0;
   return !file_ended_;
 }

@@ -36,9 +36,10 @@ class FieldReader {
   const std::string& path() const { return input_.path(); }
 
  private:
-  // What is left of the last block, then a new one, then a line end that stops every search.
-  static constexpr std::size_t kBlock = 64 * 1024;
-  using Block = std::array<char, kLongestField + kBlock + 1>;
+  // Room for what is left of the last block, for what is read, and for a line end behind it that stops every search.
+  using Block = std::array<char, 120 * 1024>;
+  static constexpr std::size_t kLeastRead = 4 * 1024;  // with less room than this a new block begins
+  static_assert(sizeof(Block) > kLongestField + kLeastRead);
 
   bool refill(const char*& at);
 

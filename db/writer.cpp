@@ -15,9 +15,9 @@ LineWriter& LineWriter::number(double value) {
 
 LineWriter& LineWriter::text(std::string_view value) {
   separate();
-  out_ += '"';
-  out_ += value;
-  out_ += '"';
+  // Between quotes a quote of its own would end it; bare, as it must have been read, it reads the same again.
+  const std::string_view quote = value.find('"') == std::string_view::npos ? "\"" : "";
+  out_.append(quote).append(value).append(quote);
   return *this;
 }
 
@@ -28,19 +28,14 @@ LineWriter& LineWriter::empty() {
 
 LineWriter& LineWriter::field(const Field& field) {
   if (field.quoted) return text(field.text);
-  separate();
-  if (field.text.empty() || is_formatted(field.text)) {
+  if (field.text.empty()) return empty();
+  if (is_formatted(field.text)) {
+    separate();
     out_ += field.text;
-  } else if (const auto value = parse_number(field.text)) {
-    append_number(out_, *value);
-  } else if (field.text.find('"') != std::string_view::npos) {
-    out_ += field.text;  // between quotes its own quote would end it; bare it reads as it did
-  } else {
-    out_ += '"';
-    out_ += field.text;
-    out_ += '"';
+    return *this;
   }
-  return *this;
+  const auto value = parse_number(field.text);
+  return value ? number(*value) : text(field.text);
 }
 
 void append_record(std::string& out, const Record& record) {

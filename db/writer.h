@@ -13,7 +13,7 @@ class LineWriter {
  public:
   explicit LineWriter(std::string& out) : out_(out) {}
   LineWriter& number(double value);
-  LineWriter& text(std::string_view value);  // in double quotes; must hold neither a double quote nor a line end
+  LineWriter& text(std::string_view value);  // in double quotes, unless it holds one
   LineWriter& empty();
   // A field as read: its type stays, a number takes the form of this writer (1.50 becomes 1.5).
   LineWriter& field(const Field& field);

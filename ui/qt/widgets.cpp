@@ -85,28 +85,35 @@ void EntryList::show_selected(int selected) {
   pushing_ = false;
 }
 
-void EntryList::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
-  QListView::currentChanged(current, previous);
-  if (pushing_ || !current.isValid()) return;
+// The selection, not the current entry, which the toolkit also moves when the list gets the focus.
+void EntryList::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+  QListView::selectionChanged(selected, deselected);
+  if (pushing_ || selected.isEmpty()) return;
   changed_ = true;
+  choose(selected.indexes().front().row());
+}
+
+void EntryList::choose(int entry) {
   // Once the toolkit is done with the event: the handler may ask something and wait for the answer.
   QMetaObject::invokeMethod(
-      this, [this, entry = current.row()] { emit chosen(entry); }, Qt::QueuedConnection);
+      this, [this, entry] { emit chosen(entry); }, Qt::QueuedConnection);
 }
 
 void EntryList::mousePressEvent(QMouseEvent* event) {
   changed_ = false;
   QListView::mousePressEvent(event);
   const QModelIndex pressed = indexAt(event->position().toPoint());
-  if (!changed_ && pressed.isValid() && event->button() == Qt::LeftButton) currentChanged(pressed, pressed);
+  if (!changed_ && pressed.isValid() && event->button() == Qt::LeftButton) choose(pressed.row());
 }
 
 void EntryList::keyPressEvent(QKeyEvent* event) {
-  const bool again = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if (again && currentIndex().isValid())
-    currentChanged(currentIndex(), currentIndex());
-  else
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (!enter || !currentIndex().isValid())
     QListView::keyPressEvent(event);
+  else if (selectionModel()->isSelected(currentIndex()))
+    choose(currentIndex().row());
+  else
+    selectionModel()->select(currentIndex(), QItemSelectionModel::ClearAndSelect);
 }
 
 PickBox::PickBox(QWidget* parent) : QComboBox(parent) {

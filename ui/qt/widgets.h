@@ -67,11 +67,13 @@ class EntryList : public QListView {
   void chosen(int entry);
 
  protected:
-  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+  void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
   void mousePressEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  void choose(int entry);
+
   EntryModel model_;
   bool pushing_ = false;
   bool changed_ = false;

@@ -1,0 +1,195 @@
+#include "support/memory_system.h"
+
+#include <algorithm>
+
+namespace support {
+namespace {
+
+using file::Handle;
+using file::Type;
+
+std::error_code failed(std::errc error) { return make_error_code(error); }
+
+}  // namespace
+
+std::string MemorySystem::absolute(const std::string& path) const {
+  std::string plain = path.starts_with("./") ? path.substr(2) : path;
+  return plain.starts_with('/') ? plain : current_ + "/" + plain;
+}
+
+void MemorySystem::add(const std::string& path, std::string content) {
+  auto file = std::make_shared<File>();
+  file->content = std::move(content);
+  file->inode = next_inode_++;
+  files_[absolute(path)] = file;
+}
+
+void MemorySystem::link(const std::string& path, const std::string& to) {
+  add(path, to);
+  at(path).type = Type::Link;
+}
+
+void MemorySystem::hard_link(const std::string& path, const std::string& existing) {
+  files_[absolute(path)] = files_.at(absolute(existing));
+}
+
+std::string MemorySystem::content(const std::string& path) const {
+  const auto found = files_.find(followed(path));
+  return found == files_.end() ? "(missing)" : found->second->content;
+}
+
+std::map<std::string, std::string> MemorySystem::all() const {
+  std::map<std::string, std::string> contents;
+  for (const auto& [path, file] : files_) contents[path] = file->content;
+  return contents;
+}
+
+std::string MemorySystem::followed(const std::string& path) const {
+  std::string at = absolute(path);
+  for (int i = 0; i < 8; ++i) {
+    const auto found = files_.find(at);
+    if (found == files_.end() || found->second->type != Type::Link) break;
+    at = absolute(found->second->content);
+  }
+  return at;
+}
+
+const MemorySystem::Folder* MemorySystem::folder_of(const std::string& path) const {
+  const auto found = folders_.find(path.substr(0, path.rfind('/')));
+  return found == folders_.end() ? nullptr : &found->second;
+}
+
+file::Status MemorySystem::status_of(const std::string& path, const File& file) const {
+  file::Status status;
+  status.type = file.type;
+  status.writable = file.writable;
+  status.access_list = file.access_list;
+  status.size = file.content.size();
+  status.mode = file.mode;
+  status.inode = file.inode;
+  status.device = folder_of(path) == nullptr ? 1 : folder_of(path)->device;
+  for (const auto& [name, other] : files_) status.links += other->inode == file.inode;
+  return status;
+}
+
+std::error_code MemorySystem::open(const std::string& path, Handle& handle) {
+  const auto found = files_.find(path);
+  if (found == files_.end()) return failed(std::errc::no_such_file_or_directory);
+  if (found->second->type == Type::Folder) return failed(std::errc::is_a_directory);
+  if (found->second->type != Type::Plain) return failed(std::errc::invalid_argument);
+  handle = next_handle_++;
+  handles_[handle].file = found->second;
+  return {};
+}
+
+std::error_code MemorySystem::open_read(const std::string& path, Handle& handle) { return open(followed(path), handle); }
+
+std::error_code MemorySystem::open_existing(const std::string& path, Handle& handle) {
+  const auto found = files_.find(absolute(path));
+  if (found != files_.end() && !found->second->writable) return failed(std::errc::permission_denied);
+  return open(absolute(path), handle);
+}
+
+std::error_code MemorySystem::create_new(const std::string& path, file::Access access, Handle& handle) {
+  const std::string at = absolute(path);
+  const Folder* folder = folder_of(at);
+  if (folder == nullptr) return failed(std::errc::no_such_file_or_directory);
+  if (files_.count(at) > 0) return failed(std::errc::file_exists);
+  if (!folder->writable) return failed(std::errc::permission_denied);
+  add(at, "");
+  files_[at]->mode = access == file::Access::Private ? 0600 : 0644;
+  return open(at, handle);
+}
+
+std::error_code MemorySystem::lock(Handle handle) {
+  Open& open = handles_.at(handle);
+  if (open.file->locked) return failed(std::errc::operation_would_block);
+  open.file->locked = open.holds_lock = true;
+  return {};
+}
+
+std::error_code MemorySystem::read(Handle handle, char* bytes, std::size_t size, std::size_t& got) {
+  Open& open = handles_.at(handle);
+  got = open.file->content.copy(bytes, size, open.position);
+  open.position += got;
+  return {};
+}
+
+std::error_code MemorySystem::write(Handle handle, std::uint64_t offset, std::string_view bytes, std::size_t& put) {
+  std::string& content = handles_.at(handle).file->content;
+  content.resize(std::max(content.size(), static_cast<std::size_t>(offset) + bytes.size()));
+  content.replace(static_cast<std::size_t>(offset), bytes.size(), bytes);
+  put = bytes.size();
+  return {};
+}
+
+std::error_code MemorySystem::truncate(Handle handle, std::uint64_t size) {
+  handles_.at(handle).file->content.resize(static_cast<std::size_t>(size));
+  return {};
+}
+
+std::error_code MemorySystem::flush(Handle) { return {}; }
+
+std::error_code MemorySystem::close(Handle handle) {
+  if (handles_.at(handle).holds_lock) handles_.at(handle).file->locked = false;
+  handles_.erase(handle);
+  return {};
+}
+
+std::error_code MemorySystem::status(const std::string& path, file::Follow follow, file::Status& status) {
+  const std::string at = follow == file::Follow::Links ? followed(path) : absolute(path);
+  const auto found = files_.find(at);
+  status = found == files_.end() ? file::Status() : status_of(at, *found->second);
+  return {};
+}
+
+std::error_code MemorySystem::status(Handle handle, file::Status& status) {
+  const auto& file = handles_.at(handle).file;
+  status = {};
+  for (const auto& [path, other] : files_)
+    if (other == file) status = status_of(path, *file);
+  return {};
+}
+
+std::error_code MemorySystem::set_ownership(Handle handle, const file::Status& like) {
+  handles_.at(handle).file->mode = like.mode;
+  return {};
+}
+
+std::error_code MemorySystem::real_path(const std::string& path, std::string& real) {
+  real = followed(path);
+  return files_.count(real) > 0 ? std::error_code() : failed(std::errc::no_such_file_or_directory);
+}
+
+std::error_code MemorySystem::rename(const std::string& from, const std::string& to) {
+  const std::string source = absolute(from), target = absolute(to);
+  const Folder *left = folder_of(source), *entered = folder_of(target);
+  if (files_.count(source) == 0 || entered == nullptr) return failed(std::errc::no_such_file_or_directory);
+  if (left->device != entered->device) return failed(std::errc::cross_device_link);
+  if (!left->writable || !entered->writable) return failed(std::errc::permission_denied);
+  if (files_.count(target) > 0 && files_[target] == files_[source]) return {};
+  files_[target] = files_[source];
+  files_.erase(source);
+  return {};
+}
+
+std::error_code MemorySystem::remove(const std::string& path) {
+  return files_.erase(absolute(path)) > 0 ? std::error_code() : failed(std::errc::no_such_file_or_directory);
+}
+
+std::error_code MemorySystem::flush_folder_of(const std::string&) { return {}; }
+
+std::error_code MemorySystem::current_folder(std::string& folder) {
+  folder = current_;
+  return {};
+}
+
+std::error_code MemorySystem::change_folder(const std::string& folder) {
+  if (folders_.count(folder) == 0) return failed(std::errc::no_such_file_or_directory);
+  current_ = folder;
+  return {};
+}
+
+std::error_code MemorySystem::change_drive(char) { return {}; }
+
+}  // namespace support

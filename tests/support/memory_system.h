@@ -1,0 +1,86 @@
+// Files in memory, behaving as those of the operating system do as far as the program can tell: folders, links, several
+// names of one file, permissions, locks, file systems of their own.
+#pragma once
+
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "file/system.h"
+
+namespace support {
+
+class MemorySystem : public file::System {
+ public:
+  struct File {
+    file::Type type = file::Type::Plain;
+    std::string content;  // of a link: where it points
+    std::uint32_t mode = 0644;
+    bool writable = true;
+    bool access_list = false;
+    bool locked = false;
+    std::uint64_t inode = 0;
+  };
+  struct Folder {
+    std::uint64_t device = 1;
+    bool writable = true;
+  };
+
+  MemorySystem() { add_folder("/work"); }
+
+  // Set-up and inspection; paths as the program gives them, relative ones from /work.
+  void add_folder(const std::string& path) { folders_[path] = Folder(); }
+  void add_folder(const std::string& path, const Folder& folder) { folders_[path] = folder; }
+  void add(const std::string& path, std::string content);
+  void link(const std::string& path, const std::string& to);             // symbolic
+  void hard_link(const std::string& path, const std::string& existing);  // another name of the same file
+  File& at(const std::string& path) { return *files_.at(absolute(path)); }
+  bool has(const std::string& path) const { return files_.count(absolute(path)) > 0; }
+  std::string content(const std::string& path) const;
+  // Every name with its content.
+  std::map<std::string, std::string> all() const;
+  int open_handles() const { return static_cast<int>(handles_.size()); }
+  std::string absolute(const std::string& path) const;
+
+  std::error_code open_read(const std::string& path, file::Handle& handle) override;
+  std::error_code create_new(const std::string& path, file::Access access, file::Handle& handle) override;
+  std::error_code open_existing(const std::string& path, file::Handle& handle) override;
+  std::error_code lock(file::Handle handle) override;
+  std::error_code read(file::Handle handle, char* bytes, std::size_t size, std::size_t& got) override;
+  std::error_code write(file::Handle handle, std::uint64_t offset, std::string_view bytes, std::size_t& put) override;
+  std::error_code truncate(file::Handle handle, std::uint64_t size) override;
+  std::error_code flush(file::Handle handle) override;
+  std::error_code close(file::Handle handle) override;
+  std::error_code status(const std::string& path, file::Follow follow, file::Status& status) override;
+  std::error_code status(file::Handle handle, file::Status& status) override;
+  std::error_code set_ownership(file::Handle handle, const file::Status& like) override;
+  std::error_code real_path(const std::string& path, std::string& real) override;
+  std::error_code rename(const std::string& from, const std::string& to) override;
+  std::error_code remove(const std::string& path) override;
+  std::error_code flush_folder_of(const std::string& path) override;
+  std::error_code current_folder(std::string& folder) override;
+  std::error_code change_folder(const std::string& folder) override;
+  std::error_code change_drive(char letter) override;
+
+ private:
+  struct Open {
+    std::shared_ptr<File> file;
+    std::size_t position = 0;
+    bool holds_lock = false;
+  };
+
+  std::string followed(const std::string& path) const;  // absolute, without links
+  const Folder* folder_of(const std::string& absolute_path) const;
+  file::Status status_of(const std::string& absolute_path, const File& file) const;
+  std::error_code open(const std::string& absolute_path, file::Handle& handle);
+
+  std::map<std::string, std::shared_ptr<File>> files_;
+  std::map<std::string, Folder> folders_;
+  std::map<file::Handle, Open> handles_;
+  std::string current_ = "/work";
+  file::Handle next_handle_ = 3;
+  std::uint64_t next_inode_ = 1;
+};
+
+}  // namespace support

@@ -1,0 +1,286 @@
+// What the window does beyond single rules: stories on files in memory.
+#include <gtest/gtest.h>
+
+#include "db/rewrite.h"
+#include "support/story.h"
+
+namespace {
+
+using namespace app;
+using support::kTrailer;
+using support::lines;
+using support::Program;
+using support::Story;
+
+std::string species(const std::string& id, const std::string& name) {
+  return lines({id + ",\"" + name + "\",0,1.5,0,0,2,0,0,0,0,2", "1,231,-1,9999"});
+}
+
+TEST(Controls, StandInTheTableUnderTheirNames) {
+  const struct {
+    int control;
+    const char* name;
+  } rows[] = {{Label1, "Label1"},
+              {txtID, "txtID"},
+              {lblMA, "lblMA"},
+              {txtMBstoich(1), "txtMBstoich(1)"},
+              {txtStoich(8), "txtStoich(8)"},
+              {txtComp(3), "txtComp(3)"},
+              {lblStoich(8), "lblStoich(8)"},
+              {lblMBnote, "lblMBnote"},
+              {Line1, "Line1"},
+              {cmdSuggest, "cmdSuggest"},
+              {Label8, "Label8"},
+              {mnuFileExit, "mnuFileExit"}};
+  const auto controls = window_def().controls;
+  ASSERT_EQ(controls.size(), static_cast<std::size_t>(kControls));
+  for (const auto& [control, name] : rows) EXPECT_EQ(controls[static_cast<std::size_t>(control)].name, name);
+  // A person without a mouse, or without sight, reaches and finds every control that can be used.
+  for (const auto& def : controls) {
+    const bool box = def.kind == ui::Kind::TextBox || def.kind == ui::Kind::ListBox || def.kind == ui::Kind::ComboBox;
+    EXPECT_EQ(def.tab >= 0, box || def.kind == ui::Kind::Button) << def.name;
+    EXPECT_EQ(def.label >= 0, box) << def.name;
+  }
+}
+
+TEST_F(Story, StartUpTakesTheHandOver) {
+  Start("x.mdb", species("501", "CuX") + kTrailer);
+  EXPECT_FALSE(system.has("sorptemp.dat"));
+  EXPECT_TRUE(system.has("dabase.txt"));
+  EXPECT_EQ(program.Text(lblNameDb), "x.mdb");
+  EXPECT_EQ(program.Listed(), std::vector<std::string>{"CuX"});
+  EXPECT_TRUE(program.told.empty());
+}
+
+TEST_F(Story, StartUpWithoutHandOverFiles) {
+  program.form.load();
+  EXPECT_TRUE(program.form.window().ended);
+  EXPECT_EQ(program.form.window().status, 1);
+  EXPECT_EQ(program.LastBox(),
+            "[The editor cannot start in /work: cannot open dabase.txt: No such file or directory. Start it from Kelmar, in "
+            "Kelmar's folder.]");
+
+  Program second(system);
+  system.add("dabase.txt", "C:");
+  second.form.load();
+  EXPECT_FALSE(second.form.window().ended);
+  EXPECT_TRUE(second.Shown(lblNameDb));
+  EXPECT_TRUE(second.told.empty());
+}
+
+TEST_F(Story, ChangeOfASpecies) {
+  Start("x.mdb", species("501", "CuX") + species("502", "FeX") + kTrailer + "more");
+  program.Select("FeX");
+  EXPECT_EQ(program.Text(txtComp(2)), "#9999");
+  program.Type(txtlogk, "-12,78");
+  program.Type(txtName, " Fe2X ");
+  program.Save();
+  EXPECT_EQ(system.content("x.mdb"),
+            species("501", "CuX") + lines({"502,\"Fe2X\",0,-12.78,0,0,2,0,0,0,0,2", "1,231,-1,9999"}) + kTrailer);
+  EXPECT_EQ(program.Listed(), (std::vector<std::string>{"CuX", "Fe2X"}));
+  EXPECT_EQ(program.form.state().changedone, "N");
+}
+
+TEST_F(Story, NewSpeciesFromClickToFile) {
+  Start("x.iso", "\"Freundlich\"\r\n" + kTrailer);
+  program.Click(cmdAddnew);
+  EXPECT_TRUE(program.Shown(lblMAnote));
+  program.Type(cboComp, "Cu+2");
+  program.Type(txtStoicn, ",5");
+  program.Click(cmdNextcomp);
+  EXPECT_EQ(program.Text(lblComp), "Component no.  2");
+  program.Type(cboComp, "H+");
+  program.Type(txtStoicn, "-1");
+  program.Type(txtSpname, "New");
+  program.Click(cmdSuggest);
+  EXPECT_EQ(program.Text(txtID), " 13012310");
+  EXPECT_EQ(program.Text(txtNocomp), " 2");
+  program.Type(txtlogk, "3");
+  program.Type(txtCharge, "1");
+  program.Type(txtMBstoich(2), "0,25");
+  program.Save();
+  EXPECT_EQ(
+      system.content("x.iso"),
+      "\"Freundlich\"\r\n" + lines({"13012310,\"New\",0,3,0,0,1,0,0,0,0,102", ".5,231,-1,330", "1", ".25,330"}) + kTrailer);
+  EXPECT_FALSE(program.Shown(txtSpname));
+}
+
+TEST_F(Story, PickedModelReachesTheFileWithTheNextSave) {
+  Start("x.iso", "\"Langmuir\"\r\n" + species("501", "CuX") + kTrailer);
+  program.person.pick(cboIsoterm, 4);
+  EXPECT_EQ(program.Text(lblLogk), "log KT");
+  program.Select("CuX");
+  program.Save();
+  EXPECT_TRUE(system.content("x.iso").starts_with("\"Temkin\"\r\n501,"));
+}
+
+TEST_F(Story, OpeningAnotherKindResetsWhatTheLastOneShowed) {
+  system.add("y.mdb", species("1", "a") + kTrailer);
+  Start("x.iso", "\"Freundlich\"\r\n" + kTrailer);
+  program.Choose("y.mdb");
+  program.Click(mnuFileOpen);
+  EXPECT_EQ(program.Text(lblLogk), "log K");
+  for (const int control : {lblMA, lblMB, lblMBnote, cboIsoterm, lblIsoterm}) EXPECT_FALSE(program.Shown(control));
+  EXPECT_EQ(program.form.state().isoselect, "");
+}
+
+TEST_F(Story, SpeciesThatCannotBeReadLeavesAnEmptyDisplay) {
+  Start("x.mdb", species("501", "CuX") + "502,FeX,0,abc,0,0,0,0,0,0,0,0\r\n" + kTrailer);
+  program.Select("CuX");
+  program.Select("FeX");
+  EXPECT_EQ(
+      program.LastBox(),
+      "[The species cannot be shown: x.mdb, record 2 (FeX): the log K is \"abc\", not a number. Mend the file with a text "
+      "editor, or open another one.]");
+  for (const int box : {txtID, txtName, txtlogk, txtCharge, txtNocomp}) EXPECT_EQ(program.Text(box), "");
+  EXPECT_FALSE(program.Shown(cmdDelete));
+  EXPECT_FALSE(program.Shown(txtComp(1)));
+}
+
+TEST_F(Story, ComponentDatabaseThatCannotBeReadCostsNoNumber) {
+  const std::string content = species("501", "CuX") + kTrailer;
+  Start("x.mdb", content);
+  program.Choose("nowhere.mdb");
+  program.Click(cmdCompdb);
+  program.Select("CuX");
+  EXPECT_EQ(program.Text(txtComp(1)), "#231");
+  EXPECT_EQ(
+      program.LastBox(),
+      "[The components are shown by number: cannot open nowhere.mdb: No such file or directory. Choose another component "
+      "database, or mend this one.]");
+  program.Save();
+  EXPECT_EQ(program.LastBox(),
+            "[The component numbers cannot be looked up: cannot open nowhere.mdb: No such file or directory. Nothing was "
+            "saved. Choose another component database, or mend this one.]");
+  EXPECT_EQ(system.content("x.mdb"), content);
+  EXPECT_FALSE(system.has(db::kTemporaryFile));
+  EXPECT_EQ(system.open_handles(), 0);
+}
+
+TEST_F(Story, NinthComponentIsRefusedAndNothingMoves) {
+  Start("x.mdb", kTrailer);
+  program.Click(cmdAddnew);
+  for (int i = 1; i <= 8; ++i) program.Click(cmdNextcomp);
+  program.Type(cboComp, "Cu+2");
+  program.Type(txtStoicn, "1");
+  program.Click(cmdNextcomp);
+  program.Click(cmdSuggest);
+  EXPECT_EQ(program.told.size(), 2u);
+  EXPECT_EQ(program.LastBox(),
+            "[A species has at most eight components. Save this one, or start again with \"Add new species\".]");
+  EXPECT_EQ(program.form.state().compslot, 9);
+  EXPECT_EQ(program.Text(cboComp), "Cu+2");
+  EXPECT_TRUE(program.Listed().empty());
+}
+
+TEST_F(Story, NineComponentsAreShownInPartAndCopiedWhole) {
+  const std::string nine =
+      lines({"501,\"big\",0,0,0,0,0,0,0,0,0,9", "1,231,2,231,3,231,4,231,5,231,6,231,7,231,8,231,9,231"});
+  Start("x.mdb", nine + species("502", "b") + kTrailer);
+  program.Select("big");
+  EXPECT_EQ(program.Text(txtNocomp), " 9");
+  EXPECT_EQ(program.LastBox(),
+            "[big has 9 components: the window holds eight, and the others stay in the database unseen. Change this species "
+            "with a text editor.]");
+  program.Save();
+  EXPECT_EQ(system.content("x.mdb"), nine + species("502", "b") + kTrailer);
+  program.Select("b");
+  program.Answer(ui::Answer::Yes);
+  program.Click(cmdDelete);
+  EXPECT_EQ(system.content("x.mdb"), nine + kTrailer);
+}
+
+TEST_F(Story, NicaDonnanKeepsItsLeadingFieldBeforeAnySpeciesWasShown) {
+  const std::string content = "\"NICA-Donnan\"\r\n" + species("501", "CuX") + kTrailer;
+  Start("x.nic", content);
+  program.Click(cmdAddnew);
+  program.Type(txtSpname, "New");
+  program.Click(cmdSuggest);
+  program.Type(txtID, "7");
+  program.Type(txtlogk, "1");
+  program.Type(txtCharge, "0");
+  program.Save();
+  EXPECT_EQ(system.content("x.nic"),
+            "\"NICA-Donnan\"\r\n" + lines({"7,\"New\",0,1,0,0,0,0,0,0,0,0"}) + species("501", "CuX") + kTrailer);
+}
+
+TEST_F(Story, SavingToANewDatabase) {
+  const std::string content = species("501", "CuX") + kTrailer;
+  Start("x.mdb", content);
+  program.Select("CuX");
+  program.Type(txtlogk, "9");
+  const std::string changed = lines({"501,\"CuX\",0,9,0,0,2,0,0,0,0,2", "1,231,-1,9999"}) + kTrailer;
+  program.Choose("new.mdb");
+  program.Click(cmdNewDb);
+  EXPECT_EQ(system.content("x.mdb"), content);
+  EXPECT_EQ(system.content("new.mdb"), changed);
+  EXPECT_EQ(program.Text(lblNameDb), "new.mdb");
+  // Onto the very file that is open nothing is copied, and it is saved.
+  program.Select("CuX");
+  program.Choose("/work/new.mdb");
+  program.Click(cmdNewDb);
+  EXPECT_EQ(system.content("new.mdb"), changed);
+  // A failure is silent, a refusal of ours is not.
+  program.told.clear();
+  program.Select("CuX");
+  program.Choose("/nowhere/x.mdb");
+  program.Click(cmdNewDb);
+  EXPECT_EQ(program.told.size(), 1u);
+  EXPECT_EQ(program.form.state().dbname, "/nowhere/x.mdb");
+  system.add("locked.mdb", "old");
+  system.at("locked.mdb").writable = false;
+  program.Choose("new.mdb");
+  program.Click(mnuFileOpen);
+  program.Choose("locked.mdb");
+  program.Click(cmdNewDb);
+  EXPECT_EQ(program.LastBox(), "[locked.mdb is read-only. Make it writable or save to a new database.]");
+  EXPECT_EQ(system.content("locked.mdb"), "old");
+}
+
+TEST_F(Story, FullDatabaseTakesNoFurtherSpecies) {
+  std::string content;
+  for (int i = 1; i <= 3999; ++i) content += lines({"1,\"a\",0,0,0,0,0,0,0,0,0,0"});
+  Start("x.mdb", content + kTrailer);
+  program.Click(cmdAddnew);
+  program.Type(txtSpname, "New");
+  program.Click(cmdSuggest);
+  program.Type(txtID, "7");
+  program.Type(txtlogk, "1");
+  program.Type(txtCharge, "0");
+  program.Save();
+  EXPECT_EQ(program.LastBox(),
+            "[x.mdb is full: a species database holds at most 3999 species. Delete one first, or add this one to another "
+            "database.]");
+  EXPECT_EQ(system.content("x.mdb"), content + kTrailer);
+  EXPECT_TRUE(program.Shown(txtSpname));
+}
+
+TEST_F(Story, DeletionOfASpecies) {
+  Start("x.bli",
+        "\"text\"\r\n\"label\",.5\r\n" + species("501", "CuX") + species("502", "CuX") + species("503", "b") + kTrailer);
+  program.Select("CuX");
+  program.Click(cmdDelete);  // answered No
+  EXPECT_EQ(program.Listed().size(), 3u);
+  program.Type(txtf50, " 0,5");
+  program.Answer(ui::Answer::Yes);
+  program.Click(cmdDelete);
+  EXPECT_EQ(system.content("x.bli"), "\"text\"\r\n\"label\",0\r\n" + species("503", "b") + kTrailer);
+  EXPECT_EQ(program.Listed(), (std::vector<std::string>{"CuX", "b"}));
+  EXPECT_EQ(program.Text(txtNocomp), "0");
+  EXPECT_TRUE(program.Shown(cmdDelete));
+}
+
+TEST_F(Story, SuggestionThatFailsEndsAndIsTold) {
+  Start("x.mdb", kTrailer);
+  program.Click(cmdAddnew);
+  program.Choose("nowhere.mdb");
+  program.Click(cmdCompdb);
+  program.Click(cmdSuggest);
+  EXPECT_FALSE(program.form.state().suggestrun);
+  EXPECT_EQ(
+      program.LastBox(),
+      "[No ID number can be suggested: cannot open nowhere.mdb: No such file or directory. Type an ID number, or mend the "
+      "file and try again.]");
+}
+
+}  // namespace
