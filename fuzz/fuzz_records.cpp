@@ -1,0 +1,36 @@
+// Any bytes as a species database of any kind: reading ends, and what is read and written unchanged reads the same again.
+#include "bytes_system.h"
+#include "db/writer.h"
+
+namespace {
+
+// Every record written unchanged, and whether the list was read to its end.
+std::string copy(std::string_view bytes, std::size_t piece, bool model, bool blm, bool& whole) {
+  fuzz::BytesSystem system(bytes, piece);
+  std::string out;
+  whole = false;
+  try {
+    db::SpeciesReader reader(system, "x.mdb");
+    if (model) db::append_text_line(out, reader.read_model());
+    if (blm) db::append_blm(out, reader.read_blm());
+    while (const db::Record* record = reader.next()) db::append_record(out, *record);
+    whole = true;
+  } catch (const file::Error&) {
+  }
+  return out;
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
+  if (size == 0) return 0;
+  const bool model = data[0] & 1, blm = data[0] & 2;
+  const std::size_t piece = data[0] & 4 ? 7 : 65536;
+  const std::string_view bytes(reinterpret_cast<const char*>(data) + 1, size - 1);
+  bool whole = false, again_whole = false;
+  const std::string once = copy(bytes, piece, model, blm, whole);
+  fuzz::require(copy(bytes, 65536, model, blm, again_whole) == once && again_whole == whole);
+  const std::string twice = copy(once, piece, model, blm, again_whole);
+  if (whole) fuzz::require(twice == once && again_whole);
+  return 0;
+}
