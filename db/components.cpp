@@ -23,9 +23,9 @@ bool ComponentReader::next(Component& component) {
   ++records_;
   fields_.begin_record();
   try {
-    Field unused;
-    cut_short_ = !fields_.next(component.number) || !fields_.next(component.name);
-    for (int i = 0; i < 4 && !cut_short_; ++i) cut_short_ = !fields_.next(unused);
+    std::array<Field, 6> fields;
+    cut_short_ = !fields_.next(fields);
+    component = {fields[0], fields[1]};
   } catch (const FieldError& error) {
     fail(error.what());
   }

@@ -28,6 +28,9 @@ struct Field {
     if (text.empty()) return quoted ? std::nullopt : std::optional<double>(0);
     return parse_number(text);
   }
+
+  // number() == 0. Most numbers show by their first digit that they are not.
+  bool is_zero() const { return (text.empty() || text.front() < '1' || text.front() > '9') && number() == 0.; }
 };
 
 }  // namespace db

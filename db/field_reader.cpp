@@ -5,20 +5,29 @@
 namespace db {
 namespace {
 
-constexpr std::array<bool, 256> kEndsField = [] {
-  std::array<bool, 256> ends{};
-  ends[','] = ends['\r'] = ends['\n'] = true;
-  return ends;
-}();
+constexpr std::array<bool, 256> table_of(std::string_view characters) {
+  std::array<bool, 256> table{};
+  for (const char c : characters) table[static_cast<unsigned char>(c)] = true;
+  return table;
+}
 
+constexpr auto kEndsField = table_of(",\r\n");
+constexpr auto kEndsPlainText = table_of(",\r\n \"");  // what stands before these needs no second look
+constexpr auto kEndsQuotedText = table_of("\"\r\n");
+constexpr std::ptrdiff_t kLongestPlain = FieldReader::kLongestField - 2;  // leaves room for quotes
 constexpr const char* kTooLong = "a field is longer than 64 KiB";
 
-bool ends_field(char c) { return kEndsField[static_cast<unsigned char>(c)]; }
+// The first character from `at` on that is in the table.
+const char* find(const std::array<bool, 256>& table, const char* at) {
+  while (!table[static_cast<unsigned char>(*at)]) ++at;
+  return at;
+}
 
 }  // namespace
 
 FieldReader::FieldReader(file::System& system, std::string path) : input_(system, std::move(path)) {
   blocks_.push_back(std::make_unique_for_overwrite<Block>());
+  blocks_.back()->front() = '\n';
   next_ = end_ = blocks_.back()->data();
 }
 
@@ -57,7 +66,42 @@ bool FieldReader::at_end() {
   return next_ == end_ && !refill(at);
 }
 
-bool FieldReader::next(Field& field) {
+// Nearly every field stands without blanks and ends inside the block, with a comma or CR LF: it is found here, any other in
+// next_of_any_kind(). No search runs beyond the line end behind the block.
+bool FieldReader::next(std::span<Field> fields) {
+  const char* at = next_;
+  for (Field& field : fields) {
+    const char* const begin = at;
+    const char* end = find(kEndsPlainText, at);
+    if (end - begin <= kLongestPlain) {
+      if (*end == ',') {
+        field = {{begin, static_cast<std::size_t>(end - begin)}, false};
+        at = end + 1;
+        continue;
+      }
+      if (*end == '\r' && end[1] == '\n' && end + 1 != end_) {
+        field = {{begin, static_cast<std::size_t>(end - begin)}, false};
+        at = end + 2;
+        continue;
+      }
+      if (*end == '"' && end == begin) {
+        end = find(kEndsQuotedText, begin + 1);
+        if (*end == '"' && end[1] == ',' && end - begin <= kLongestPlain) {
+          field = {{begin + 1, static_cast<std::size_t>(end - begin - 1)}, true};
+          at = end + 2;
+          continue;
+        }
+      }
+    }
+    next_ = begin;
+    if (!next_of_any_kind(field)) return false;
+    at = next_;
+  }
+  next_ = at;
+  return true;
+}
+
+bool FieldReader::next_of_any_kind(Field& field) {
   if (at_end()) return false;
   // Every search stops at the line end behind the last byte read; there it goes on once more has been read.
   const char* at = next_;
@@ -69,14 +113,12 @@ bool FieldReader::next(Field& field) {
   if (field.quoted) ++at;
   const std::ptrdiff_t before_text = at - next_;
   if (field.quoted) {
-    do
-      while (*at != '"' && *at != '\r' && *at != '\n') ++at;
+    do at = find(kEndsQuotedText, at);
     while (at == end_ && refill(at));
     if (*at != '"') throw FieldError("a quoted text is not closed on its line");
     field.text = {next_ + before_text, static_cast<std::size_t>(at - next_ - before_text)};
   }
-  do
-    while (!ends_field(*at)) ++at;
+  do at = find(kEndsField, at);
   while (at == end_ && refill(at));
   if (at - next_ > static_cast<std::ptrdiff_t>(kLongestField)) throw FieldError(kTooLong);
   if (!field.quoted) {

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <memory>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -28,10 +29,11 @@ class FieldReader {
   void begin_record();
   // Whether nothing is left in the file. A last line without its end, or a comma at the very end, leaves nothing.
   bool at_end();
-  // Reads the next field into `field`; false at the end of the file. The view holds until the next begin_record().
+  // Reads the next fields; false when the file ends before the last of them. The views hold until the next begin_record().
   // Throws FieldError for a quoted text that is not closed on its line or a field above the limit, and file::Error for a
   // failed read.
-  bool next(Field& field);
+  bool next(std::span<Field> fields);
+  bool next(Field& field) { return next(std::span(&field, 1)); }
 
   const std::string& path() const { return input_.path(); }
 
@@ -42,6 +44,7 @@ class FieldReader {
   static_assert(sizeof(Block) > kLongestField + kLeastRead);
 
   bool refill(const char*& at);
+  bool next_of_any_kind(Field& field);
 
   file::Input input_;
   std::vector<std::unique_ptr<Block>> blocks_;  // those that fields of this record may point into; the last is current

@@ -1,9 +1,6 @@
 #include "db/number.h"
 
 #include <array>
-#include <charconv>
-#include <cmath>
-#include <cstdint>
 
 namespace db {
 namespace {
@@ -14,20 +11,12 @@ bool is_digit(char c) { return c >= '0' && c <= '9'; }
 
 }  // namespace
 
-std::optional<double> parse_number(std::string_view text) {
-  const bool plus = !text.empty() && text.front() == '+';
-  const char* begin = text.data() + (plus ? 1 : 0);
+std::optional<double> parse_any_number(std::string_view text) {
+  // from_chars takes no plus sign, and takes words like inf.
+  const char* begin = text.data() + (text.starts_with('+') ? 1 : 0);
   const char* const end = text.data() + text.size();
-  if (begin == end) return std::nullopt;
-  const char first = *begin == '-' && !plus && begin + 1 != end ? begin[1] : *begin;
-  if (!is_digit(first) && first != '.') return std::nullopt;
-
-  // Most fields are short whole numbers, for which the conversion of integers is both exact and quicker.
-  if (end - begin <= static_cast<std::ptrdiff_t>(kDigits)) {
-    std::int64_t whole = 0;
-    if (const auto [stop, error] = std::from_chars(begin, end, whole); stop == end && error == std::errc())
-      return static_cast<double>(whole);
-  }
+  const char* const unsigned_part = begin + (text.starts_with('-') ? 1 : 0);
+  if (unsigned_part == end || (!is_digit(*unsigned_part) && *unsigned_part != '.')) return std::nullopt;
   double value = 0;
   const auto [stop, error] = std::from_chars(begin, end, value);
   if (stop != end || error != std::errc()) return std::nullopt;
@@ -56,7 +45,7 @@ std::string format_number(double value) {
 }
 
 bool is_formatted(std::string_view text) {
-  if (text == "0") return true;
+  if (text.size() == 1) return is_digit(text.front());
   if (!text.empty() && text.front() == '-') text.remove_prefix(1);
   std::size_t whole = 0;
   while (whole < text.size() && is_digit(text[whole])) ++whole;

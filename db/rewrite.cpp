@@ -3,10 +3,13 @@
 #include "file/replacement.h"
 
 namespace db {
-namespace {
 
-std::string content_after(file::System& system, const Rewrite& order) {
+std::string rewritten_content(file::System& system, const Rewrite& order) {
   std::string out;
+  file::Status status;
+  constexpr std::size_t kGrowth = 4096;  // room for one more species
+  if (!system.status(order.database, file::Follow::Links, status) && status.size < file::kLargestDatabase)
+    out.reserve(static_cast<std::size_t>(status.size) + kGrowth);
   SpeciesReader reader(system, order.database);
   if (order.model) {
     const std::string read = reader.read_model();
@@ -36,11 +39,9 @@ std::string content_after(file::System& system, const Rewrite& order) {
   return out;
 }
 
-}  // namespace
-
 std::string rewrite(file::System& system, const Rewrite& order) {
   file::Replacement replacement(system, kTemporaryFile, order.database);
-  return replacement.commit(content_after(system, order));
+  return replacement.commit(rewritten_content(system, order));
 }
 
 }  // namespace db

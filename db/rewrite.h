@@ -26,6 +26,9 @@ struct Rewrite {
   std::function<Decision(const Record& record, std::string& out)> decide;
 };
 
+// What the database becomes; nothing is written yet. Throws as rewrite() does.
+std::string rewritten_content(file::System& system, const Rewrite& order);
+
 // Throws file::Refusal when the database holds more than the editor can write back whole, and file::Error when it
 // cannot be read or replaced. The file then is as it was. Returns what the user has to be told of a success, or nothing.
 [[nodiscard]] std::string rewrite(file::System& system, const Rewrite& order);

@@ -19,32 +19,35 @@ void SpeciesReader::fail(const std::string& reason) const {
   throw file::Error(where + reason + ".");
 }
 
-void SpeciesReader::require(Field& field) {
-  bool found = false;
+// Whatever is wrong with a field is told with file and record.
+template <typename Read>
+auto SpeciesReader::located(Read read) {
+  fields_.begin_record();
   try {
-    found = fields_.next(field);
+    return read();
   } catch (const FieldError& error) {
     fail(error.what());
   }
-  if (!found) fail(records_ == 0 ? "the file ends too early" : "the file ends inside the record");
+}
+
+void SpeciesReader::require(std::span<Field> fields) {
+  if (!fields_.next(fields)) throw FieldError(records_ == 0 ? "the file ends too early" : "the file ends inside the record");
 }
 
 std::string SpeciesReader::read_model() {
-  fields_.begin_record();
-  Field model;
-  require(model);
-  return std::string(model.text);
+  return located([this] {
+    Field model;
+    require(std::span(&model, 1));
+    return std::string(model.text);
+  });
 }
 
 BlmFields SpeciesReader::read_blm() {
-  fields_.begin_record();
-  Field description, label, critical_f;
-  require(description);
-  require(label);
-  require(critical_f);
-  const auto value = critical_f.number();
-  if (!value) fail("the critical f value is \"" + std::string(critical_f.text) + "\", not a number");
-  return {std::string(description.text), std::string(label.text), *value};
+  return located([this] {
+    std::array<Field, 3> fields;
+    require(fields);
+    return BlmFields{std::string(fields[0].text), std::string(fields[1].text), number(fields[2], "the critical f value")};
+  });
 }
 
 std::optional<std::string> SpeciesReader::skip_leading_fields(bool blifile) {
@@ -65,41 +68,38 @@ const Record* SpeciesReader::next() {
   }
   ++records_;
   record_.head[kName] = {};
-  fields_.begin_record();
-  for (Field& field : record_.head) require(field);
-  if (record_.head[kId].number() == 0.) {
+  return located([this] { return read_record(); });
+}
+
+const Record* SpeciesReader::read_record() {
+  require(record_.head);
+  if (record_.head[kId].is_zero()) {
     end_ = End::Marker;
     return nullptr;
   }
-  const int components = whole(record_.head[kComponents], "the number of components");
-  record_.n = components > kMbBlock ? components - kMbBlock : components;
-  read_pairs(record_.pair_array, record_.n, "component pairs");
+  const double components = number(record_.head[kComponents], "the number of components");
+  const double whole = std::floor(components);
+  read_pairs(record_.pairs, whole > kMbBlock ? whole - kMbBlock : whole, "component pairs");
 
-  // Not the same as components > kMbBlock: 100.5 has a block too (and then too many pairs).
-  record_.has_mb = *record_.head[kComponents].number() > kMbBlock;
-  record_.k = 0;
-  if (record_.has_mb) {
-    require(record_.mb_count);
-    record_.k = whole(record_.mb_count, "the number of M.B. pairs");
-    read_pairs(record_.mb_array, record_.k, "M.B. pairs");
-  }
+  // Not the same as whole > kMbBlock: 100.5 has a block too (and then too many pairs).
+  record_.has_mb = components > kMbBlock;
+  if (record_.has_mb) require(std::span(&record_.mb_count, 1));
+  read_pairs(record_.mb_pairs, record_.has_mb ? std::floor(number(record_.mb_count, "the number of M.B. pairs")) : 0,
+             "M.B. pairs");
   return &record_;
 }
 
-// The whole-number part of a count; below zero, which means none, it is 0 here.
-int SpeciesReader::whole(const Field& field, const char* what) const {
+double SpeciesReader::number(const Field& field, const char* what) {
   const auto value = field.number();
-  if (!value) fail(std::string(what) + " is \"" + std::string(field.text) + "\", not a number");
-  if (*value < 0) return 0;
-  return static_cast<int>(std::min(std::floor(*value), 1e6));
+  if (!value) throw FieldError(std::string(what) + " is \"" + std::string(field.text) + "\", not a number");
+  return *value;
 }
 
-void SpeciesReader::read_pairs(std::array<Pair, kMaxPairs>& pairs, int count, const char* what) {
-  if (count > kMaxPairs) fail("it has more than " + std::to_string(kMaxPairs) + " " + what);
-  for (int i = 0; i < count; ++i) {
-    require(pairs[static_cast<std::size_t>(i)].stoich);
-    require(pairs[static_cast<std::size_t>(i)].compno);
-  }
+// A count below 1 means none.
+void SpeciesReader::read_pairs(Pairs& pairs, double count, const char* what) {
+  if (count > kMaxPairs) throw FieldError("it has more than " + std::to_string(kMaxPairs) + " " + what);
+  pairs.count_ = static_cast<int>(std::max(count, 0.));
+  require(std::span(pairs.fields_).first(static_cast<std::size_t>(2 * pairs.count_)));
 }
 
 }  // namespace db

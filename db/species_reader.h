@@ -15,23 +15,28 @@ namespace db {
 enum HeadField { kId, kName, kDhr, kLogK, kKsel, kLk2, kCharge, kUnused8, kUnused9, kUnused10, kUnused11, kComponents };
 inline constexpr int kHeadFields = 12;
 
-struct Pair {
-  Field stoich;  // stoichiometry of the component
-  Field compno;  // its component number
+// Pairs of a stoichiometry and the number of the component that it belongs to.
+class Pairs {
+ public:
+  int count() const { return count_; }
+  const Field& stoich(int i) const { return fields_[static_cast<std::size_t>(2 * i)]; }
+  const Field& compno(int i) const { return fields_[static_cast<std::size_t>(2 * i + 1)]; }
+  // All of them, in file order.
+  std::span<const Field> fields() const { return {fields_.data(), static_cast<std::size_t>(2 * count_)}; }
+
+ private:
+  friend class SpeciesReader;
+  std::array<Field, 2 * kMaxPairs> fields_;
+  int count_ = 0;
 };
 
 // One species as the file holds it. All fields are views that end when the next record is read.
 struct Record {
   std::array<Field, kHeadFields> head;
-  std::array<Pair, kMaxPairs> pair_array;
-  std::array<Pair, kMaxPairs> mb_array;
-  int n = 0;  // number of component pairs
-  int k = 0;  // number of M.B. pairs
+  Pairs pairs;
   bool has_mb = false;
-  Field mb_count;  // k as it stands in the file
-
-  std::span<const Pair> pairs() const { return {pair_array.data(), static_cast<std::size_t>(n)}; }
-  std::span<const Pair> mb_pairs() const { return {mb_array.data(), static_cast<std::size_t>(k)}; }
+  Field mb_count;  // the number of M.B. pairs as it stands in the file
+  Pairs mb_pairs;
 };
 
 struct BlmFields {
@@ -64,9 +69,12 @@ class SpeciesReader {
   [[noreturn]] void fail(const std::string& reason) const;
 
  private:
-  void require(Field& field);
-  int whole(const Field& field, const char* what) const;
-  void read_pairs(std::array<Pair, kMaxPairs>& pairs, int count, const char* what);
+  template <typename Read>
+  auto located(Read read);
+  void require(std::span<Field> fields);
+  static double number(const Field& field, const char* what);
+  void read_pairs(Pairs& pairs, double count, const char* what);
+  const Record* read_record();
 
   FieldReader fields_;
   Record record_;

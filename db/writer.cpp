@@ -38,21 +38,42 @@ LineWriter& LineWriter::field(const Field& field) {
   return value ? number(*value) : text(field.text);
 }
 
+namespace {
+
+// The place in the file where these fields stand in a row just as a LineWriter would write them; nothing when they do not.
+std::string_view as_written(std::span<const Field> fields) {
+  const auto begin_of = [](const Field& field) { return field.text.data() - (field.quoted ? 1 : 0); };
+  const char* const begin = begin_of(fields.front());
+  const char* at = begin;
+  for (const Field& field : fields) {
+    if (at != begin && *at++ != ',') return {};
+    if (at != begin_of(field)) return {};
+    if (!field.quoted && !field.text.empty() && !is_formatted(field.text)) return {};
+    at = field.text.data() + field.text.size() + (field.quoted ? 1 : 0);
+  }
+  return {begin, static_cast<std::size_t>(at - begin)};
+}
+
+void append_line(std::string& out, std::span<const Field> fields) {
+  if (fields.empty()) return;
+  if (const auto line = as_written(fields); !line.empty()) {
+    out += line;
+    out += kLineEnd;
+    return;
+  }
+  LineWriter line(out);
+  for (const Field& field : fields) line.field(field);
+  line.end();
+}
+
+}  // namespace
+
 void append_record(std::string& out, const Record& record) {
-  LineWriter head(out);
-  for (const Field& field : record.head) head.field(field);
-  head.end();
-  const auto append_pairs = [&out](std::span<const Pair> pairs) {
-    if (pairs.empty()) return;
-    LineWriter line(out);
-    for (const Pair& pair : pairs) line.field(pair.stoich).field(pair.compno);
-    line.end();
-  };
-  append_pairs(record.pairs());
+  append_line(out, record.head);
+  append_line(out, record.pairs.fields());
   if (!record.has_mb) return;
-  LineWriter count(out);
-  count.field(record.mb_count).end();
-  append_pairs(record.mb_pairs());
+  append_line(out, std::span(&record.mb_count, 1));
+  append_line(out, record.mb_pairs.fields());
 }
 
 void append_text_line(std::string& out, std::string_view text) { LineWriter(out).text(text).end(); }

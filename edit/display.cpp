@@ -1,6 +1,6 @@
 #include "edit/display.h"
 
-#include <array>
+#include <algorithm>
 
 namespace edit {
 namespace {
@@ -56,29 +56,35 @@ class Display {
   }
 
   void show_rows(file::System& system, const std::string& compdb) {
-    auto pairs = record_.pairs();
-    if (pairs.size() > db::kShownPairs) {
-      shown_.notice = std::string(name()) + " has " + std::to_string(pairs.size()) +
+    const db::Pairs& pairs = record_.pairs;
+    if (pairs.count() > db::kShownPairs)
+      shown_.notice = std::string(name()) + " has " + std::to_string(pairs.count()) +
                       " components: the window holds eight, and the others stay in the database unseen. "
                       "Change this species with a text editor.";
-      pairs = pairs.first(db::kShownPairs);
-    }
     std::vector<double> compno;
-    for (const db::Pair& pair : pairs) compno.push_back(number(pair.compno, "component number"));
+    for (int i = 0; i < std::min(pairs.count(), db::kShownPairs); ++i)
+      compno.push_back(number(pairs.compno(i), "component number"));
     const auto found = compno.empty() ? db::ComponentNames() : db::component_names(system, compdb, compno);
     if (!found.failure.empty())
       shown_.notice = "The components are shown by number: " + found.failure +
                       " Choose another component database, or mend this one." +
                       (shown_.notice.empty() ? "" : " " + shown_.notice);
-    for (std::size_t i = 0; i < pairs.size(); ++i) {
+    for (std::size_t i = 0; i < compno.size(); ++i) {
       Row row;
-      row.stoich = numtext(number(pairs[i].stoich, "stoichiometry"));
+      row.stoich = numtext(number(pairs.stoich(static_cast<int>(i)), "stoichiometry"));
       row.comp = found.names[i] ? *found.names[i] : "#" + db::format_number(compno[i]);
-      for (const db::Pair& mb : record_.mb_pairs())
-        if (mb.compno.number() == compno[i])
-          row.mbstoich = mb.stoich.type() == db::FieldType::Empty ? "" : numtext(number(mb.stoich, "M.B. stoichiometry"));
+      row.mbstoich = mb_text(compno[i]);
       shown_.rows.push_back(std::move(row));
     }
+  }
+
+  // Of several M.B. stoichiometries of a component the last counts.
+  std::string mb_text(double compno) const {
+    const db::Pairs& pairs = record_.mb_pairs;
+    for (int i = pairs.count() - 1; i >= 0; --i)
+      if (pairs.compno(i).number() == compno)
+        return pairs.stoich(i).type() == db::FieldType::Empty ? "" : numtext(number(pairs.stoich(i), "M.B. stoichiometry"));
+    return "";
   }
 
   const db::SpeciesReader& reader_;
