@@ -28,7 +28,7 @@ void frmMaindb::cmdSavedb_Click() {
   } catch (const file::Refusal& refusal) {
     refuse(refusal.what());
   } catch (const file::Error& error) {
-    refuse(std::string("The database was not saved and is as it was: ") + error.what() + " Put that right and save again.");
+    refuse(std::string("The database was not saved: ") + error.what() + " Put that right and save again.");
   }
 }
 
@@ -130,8 +130,7 @@ void frmMaindb::cmdDelete_Click() {
   } catch (const file::Refusal& refusal) {
     return refuse(refusal.what());
   } catch (const file::Error& error) {
-    return refuse(std::string("The species was not deleted, the database is as it was: ") + error.what() +
-                  " Put that right and try again.");
+    return refuse(std::string("The species was not deleted: ") + error.what() + " Put that right and try again.");
   }
   remove_selected_species();
   empty_rows();

@@ -208,8 +208,11 @@ std::string Replacement::overwrite(std::string_view content) {
     temporary_.path.clear();  // the whole new content stays where it is
     throw Error(std::string(error.what()) + " " + target_ + " may be damaged: its whole new content is in " + kept_ + ".");
   }
-  require(system_.close(handle), "close", target_);
-  return "";
+  system_.close(handle);  // what this could still report, the flush has
+  temporary_.path.clear();
+  const auto removed = uninterrupted([&] { return system_.remove(kept_); });
+  return removed ? failure("remove", kept_, removed) + " The database is saved; remove that file before the next saving."
+                 : "";
 }
 
 void Replacement::restore(Handle handle, std::string_view old) {

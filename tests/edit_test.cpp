@@ -9,7 +9,6 @@
 
 namespace {
 
-using support::lines;
 using support::MemorySystem;
 
 TEST(Display, TellsIdRangesWithStrictBounds) {
@@ -220,6 +219,7 @@ double walked(edit::IdBase base, const std::vector<double>& used) {
 TEST(Suggestion, IsTheFirstCandidateNotInUse) {
   const auto block = [](double from, int count) {
     std::vector<double> ids;
+    ids.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) ids.push_back(from + i);
     return ids;
   };

@@ -18,7 +18,7 @@ std::string fields_of(const std::string& text) {
   std::string all;
   for (db::Field field; reader.next(field);) {
     const std::string mark = field.quoted ? "\"" : "";
-    all += "[" + mark + std::string(field.text) + mark + "]";
+    all.append("[").append(mark).append(field.text).append(mark).append("]");
   }
   return all;
 }

@@ -10,7 +10,7 @@ namespace {
 // Cuts the text before the first blank off `rest`.
 std::string cut_word(std::string& rest) {
   const auto blank = rest.find(' ');
-  const std::string word = rest.substr(0, blank);
+  std::string word = rest.substr(0, blank);
   rest = blank == std::string::npos ? "" : rest.substr(blank + 1);
   return word;
 }

@@ -1,0 +1,18 @@
+# Fails when the program PROGRAM lacks what the release flags promise. Needs readelf (READELF).
+function(require option pattern what)
+  execute_process(COMMAND ${READELF} -W ${option} ${PROGRAM} OUTPUT_VARIABLE text COMMAND_ERROR_IS_FATAL ANY)
+  if(NOT text MATCHES "${pattern}")
+    message(SEND_ERROR "${PROGRAM} lacks ${what}")
+  endif()
+endfunction()
+
+require(-h "DYN \\(" "a position that changes from start to start")
+require(-l "GNU_RELRO" "a relocation table that is read-only after start")
+require(-d "BIND_NOW|NOW" "the binding of all functions at start")
+require(-s "__stack_chk_fail" "stack protection")
+require(-s "_chk@" "checked library calls")
+
+execute_process(COMMAND ${READELF} -W -l ${PROGRAM} OUTPUT_VARIABLE segments)
+if(segments MATCHES "GNU_STACK[^\n]*RWE")
+  message(SEND_ERROR "${PROGRAM} has an executable stack")
+endif()

@@ -1,0 +1,103 @@
+#!/usr/bin/env python3
+"""Real file systems: disk.py PLAYER
+
+A disk that fills up at every step of a saving, a database on another file system than the working folder, a database that
+the user may not write, and the file that a saving must leave what it is for others. Needs root.
+"""
+import os
+import subprocess
+import tempfile
+
+from outside import *
+
+
+def mount(size):
+    path = tempfile.mkdtemp()
+    subprocess.run(["mount", "-t", "tmpfs", "-o", "size=%d" % size, "tmpfs", path], check=True)
+    return path
+
+
+def unmount(path):
+    subprocess.run(["umount", path], check=True)
+    os.rmdir(path)
+
+
+with Folder() as folder:
+    folder.play(STORIES["change"])
+    new = folder.read("x.mdb")
+
+# Every number of free pages from none to more than a saving takes.
+steps = 0
+big = b"".join(b'%d,"Sp%d",0,1.5,0,0,2,0,0,0,0,1\r\n1,231\r\n' % (501 + i, i) for i in range(2000)) + TRAILER
+disk = mount(2 * 1024 * 1024)
+try:
+    told_of_full_disk = False
+    for links in (1, 2):
+        for free in range(0, len(big) + 8 * 4096, 4096):
+            with Folder(big, where=disk) as folder:
+                if links == 2:
+                    os.link(folder.file("x.mdb"), folder.file("y.mdb"))
+                room = os.statvfs(disk)
+                with open(folder.file("filler"), "wb") as filler:
+                    filler.write(bytes(max(0, room.f_bavail * room.f_frsize - free)))
+                _, lines, _ = folder.play(STORIES["change"])
+                after = folder.read("x.mdb")
+                changed = after != big and after.count(b'"Sp') == 2000 and after.endswith(TRAILER) and b'"Sp1",0,7' in after
+                told = len(boxes(lines)) == 2
+                told_of_full_disk |= told and "No space left" in boxes(lines)[-1]
+                if not changed and (after != big or not told):
+                    fail("%d bytes free: the database is damaged, or the user was not told" % free)
+                if folder.read("dbnamep.mdb") is not None or folder.read("dbnamep.mdb.keep") is not None:
+                    fail("%d bytes free: a temporary file is left behind" % free)
+                steps += 1
+    if not told_of_full_disk:
+        fail("no step filled the disk")
+
+    # The database on another file system than the working folder.
+    with Folder(None, name="far.mdb") as folder, Folder(where=disk) as far:
+        folder.write("sorptemp.dat", far.file("x.mdb").encode())
+        os.chmod(far.file("x.mdb"), 0o640)
+        _, lines, _ = folder.play(STORIES["change"])
+        if far.read("x.mdb") != new or os.stat(far.file("x.mdb")).st_mode & 0o777 != 0o640:
+            fail("another file system: not saved as it should: %s" % lines)
+        if sorted(os.listdir(far.path)) != ["comp.mdb", "dabase.txt", "sorptemp.dat", "x.mdb"]:
+            fail("another file system: something is left behind")
+finally:
+    unmount(disk)
+
+# What the file is for others: links, names, permissions, owner.
+with Folder() as folder:
+    os.mkdir(folder.file("data"))
+    os.rename(folder.file("x.mdb"), folder.file("data/real.mdb"))
+    os.symlink("data/real.mdb", folder.file("x.mdb"))
+    os.chmod(folder.file("data/real.mdb"), 0o664)
+    os.chown(folder.file("data/real.mdb"), 65534, 65534)
+    folder.play(STORIES["change"])
+    status = os.stat(folder.file("data/real.mdb"))
+    if not os.path.islink(folder.file("x.mdb")) or folder.read("data/real.mdb") != new:
+        fail("a symbolic link was not followed and kept")
+    if (status.st_mode & 0o777, status.st_uid, status.st_gid) != (0o664, 65534, 65534):
+        fail("permissions or owner were lost")
+with Folder() as folder:
+    os.link(folder.file("x.mdb"), folder.file("y.mdb"))
+    folder.play(STORIES["change"])
+    if folder.read("y.mdb") != new or not os.path.samefile(folder.file("x.mdb"), folder.file("y.mdb")):
+        fail("a second name of the file was parted from it")
+
+# As a user who may not write: a read-only database is refused, and one in a closed folder is overwritten.
+with Folder() as folder:
+    as_nobody = ["setpriv", "--reuid=65534", "--regid=65534", "--clear-groups"]
+    os.chmod(folder.path, 0o777)
+    os.chmod(folder.file("x.mdb"), 0o444)
+    _, lines, _ = folder.play(STORIES["change"], as_nobody)
+    if "x.mdb is read-only" not in boxes(lines)[-1] or folder.read("x.mdb") != DATABASE:
+        fail("a read-only database was not refused: %s" % lines)
+    os.mkdir(folder.file("closed"))
+    os.rename(folder.file("x.mdb"), folder.file("closed/x.mdb"))
+    os.chmod(folder.file("closed/x.mdb"), 0o666)
+    folder.write("sorptemp.dat", b"closed/x.mdb")
+    folder.play(STORIES["change"], as_nobody)
+    if folder.read("closed/x.mdb") != new or folder.read("dbnamep.mdb.keep") is not None:
+        fail("a database in a closed folder was not saved")
+
+finish("a full disk in %d steps, and other file systems" % steps)
