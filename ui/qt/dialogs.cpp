@@ -50,8 +50,8 @@ std::optional<std::string> QtDialogs::choose_file(const FileRequest& request) {
   dialog.setAcceptMode(opens ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
   dialog.setFileMode(opens ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
   dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.writes);
-  const QStringList filters = name_filters(request.filter);
-  dialog.setNameFilters(filters);
+  dialog.setOption(QFileDialog::HideNameFilterDetails);  // the descriptions name the patterns
+  dialog.setNameFilters(name_filters(request.filter));
   if (request.writes) dialog.setDefaultSuffix(from_bytes(request.filter).section('.', -1));
   if (!request.folder.empty()) dialog.setDirectory(QFile::decodeName(request.folder.c_str()));
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
