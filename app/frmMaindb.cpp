@@ -121,6 +121,7 @@ void frmMaindb::Listfill() {
       set(lblIsoterm, "Critical f value");
       set(lblKsel, "Contributes to toxicity");
     }
+    list.entries.reserve(db::kMaxRecords);
     if (state_.blifile) set(txtf50, db::numtext(reader.read_blm().critical_f));
     while (const db::Record* record = reader.next()) list.entries.emplace_back(record->head[db::kName].text);
   } catch (const file::Error&) {

@@ -1,5 +1,14 @@
 # Compiler and linker flags of all targets.
 
+if(CMAKE_BUILD_TYPE STREQUAL "Release")
+  set(CMAKE_INTERPROCEDURAL_OPTIMIZATION ON)
+endif()
+
+# Of a target that uses Qt: a linker that generates its code would copy Qt's data into the program, which Qt forbids.
+function(generate_code_before_linking target)
+  set_target_properties(${target} PROPERTIES INTERPROCEDURAL_OPTIMIZATION OFF)
+endfunction()
+
 if(MSVC)
   add_compile_options(/W4 /WX /utf-8)
   return()
@@ -15,7 +24,7 @@ endif()
 
 # Hardening of release builds; tests/hardening.cmake checks that the program has it.
 if(CMAKE_BUILD_TYPE STREQUAL "Release" AND NOT KELMAR_SANITIZE)
-  add_compile_options(-U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2 -D_GLIBCXX_ASSERTIONS -fstack-protector-strong
+  add_compile_options(-U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2 -Wformat -Werror=format-security -fstack-protector-strong
                       -fstack-clash-protection)
   if(CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64")
     add_compile_options(-fcf-protection)
@@ -27,6 +36,9 @@ if(CMAKE_BUILD_TYPE STREQUAL "Release" AND NOT KELMAR_SANITIZE)
   endif()
 endif()
 
+if(NOT CMAKE_BUILD_TYPE STREQUAL "Release")
+  add_compile_options(-D_GLIBCXX_ASSERTIONS)
+endif()
 if(KELMAR_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)

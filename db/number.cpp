@@ -5,9 +5,14 @@
 namespace db {
 namespace {
 
-constexpr std::size_t kDigits = 15;  // what a double keeps of any decimal number
+constexpr int kDigits = 15;  // what a double keeps of any decimal number
 
 bool is_digit(char c) { return c >= '0' && c <= '9'; }
+
+const char* behind_digits(const char* at, const char* end) {
+  while (at != end && is_digit(*at)) ++at;
+  return at;
+}
 
 }  // namespace
 
@@ -29,9 +34,8 @@ void append_number(std::string& out, double value) {
     return;
   }
   std::array<char, 32> buffer;
-  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::general,
-                                 static_cast<int>(kDigits))
-                       .ptr;
+  const auto end =
+      std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::general, kDigits).ptr;
   const char* from = buffer.data();
   if (*from == '-') out += *from++;
   if (*from == '0') ++from;
@@ -45,18 +49,16 @@ std::string format_number(double value) {
 }
 
 bool is_formatted(std::string_view text) {
-  if (text.size() == 1) return is_digit(text.front());
-  if (!text.empty() && text.front() == '-') text.remove_prefix(1);
-  std::size_t whole = 0;
-  while (whole < text.size() && is_digit(text[whole])) ++whole;
-  if (whole > 0 && text[0] == '0') return false;
-  if (whole == text.size()) return whole > 0 && whole <= kDigits;
-  if (text[whole] != '.') return false;
-  const std::string_view fraction = text.substr(whole + 1);
-  if (fraction.empty() || fraction.back() == '0' || whole + fraction.size() > kDigits) return false;
-  for (const char c : fraction)
-    if (!is_digit(c)) return false;
-  return whole > 0 || fraction.substr(0, 4) != "0000";  // smaller ones have an exponent
+  if (text.size() == 1) return is_digit(text.front());  // most are
+  const char* const end = text.data() + text.size();
+  const char* const whole = text.data() + (text.starts_with('-') ? 1 : 0);
+  const char* const point = behind_digits(whole, end);
+  if (point != whole && *whole == '0') return text == "0";
+  if (point == end) return point != whole && end - whole <= kDigits;
+  const char* const fraction = point + 1;
+  if (*point != '.' || behind_digits(fraction, end) != end) return false;
+  if (fraction == end || end[-1] == '0' || end - whole - 1 > kDigits) return false;
+  return point != whole || !std::string_view(fraction, static_cast<std::size_t>(end - fraction)).starts_with("0000");
 }
 
 std::string numtext(double value) {

@@ -43,7 +43,7 @@ std::vector<Instead> failures_of(Call call) {
       all.push_back({{}, true});
       return all;
     }
-    case Call::Flush: return errors({E::io_error, E::no_space_on_device});
+    case Call::Flush:
     case Call::Close: return errors({E::io_error, E::no_space_on_device});
     case Call::FlushFolder: return errors({E::io_error, E::permission_denied, E::interrupted});
     case Call::CreateNew:

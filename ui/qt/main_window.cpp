@@ -180,16 +180,18 @@ void MainWindow::push(bool anew) {
 void MainWindow::push_control(int control, bool anew) {
   const Control& now = form_.window()[control];
   Control& before = shown_[static_cast<std::size_t>(control)];
-  const bool entries = anew || now.entries != before.entries;
-  if (entries) before.entries = now.entries;
   if (auto* list = qobject_cast<EntryList*>(widget(control))) {
-    if (entries)
+    if (anew || now.entries != list->entries())
       list->show_entries(now.entries, now.selected);
     else if (now.selected != before.selected)
       list->show_selected(now.selected);
+    before.selected = now.selected;
   }
-  if (auto* combo = qobject_cast<PickBox*>(widget(control)); combo != nullptr && entries) combo->show_entries(now.entries);
-  before.selected = now.selected;
+  auto* combo = qobject_cast<PickBox*>(widget(control));
+  if (combo != nullptr && (anew || now.entries != before.entries)) {
+    combo->show_entries(now.entries);
+    before.entries = now.entries;
+  }
 
   if (anew || now.text != before.text) {
     before.text = now.text;

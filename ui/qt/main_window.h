@@ -52,7 +52,7 @@ class MainWindow : public QMainWindow {
   QWidget* area_;
   std::vector<QWidget*> widgets_;
   std::vector<QAction*> actions_;
-  std::vector<Control> shown_;  // what was pushed last
+  std::vector<Control> shown_;  // what was pushed last; the entries of a list are with its widget
 };
 
 }  // namespace ui::qt

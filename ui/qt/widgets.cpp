@@ -45,9 +45,9 @@ QValidator::State CodePageValidator::validate(QString& input, int& position) con
   return Acceptable;
 }
 
-void EntryModel::set_entries(std::vector<std::string> entries) {
+void EntryModel::set_entries(const std::vector<std::string>& entries) {
   beginResetModel();
-  entries_ = std::move(entries);
+  entries_ = entries;
   endResetModel();
 }
 

@@ -46,7 +46,8 @@ class EntryModel : public QAbstractListModel {
   Q_OBJECT
  public:
   using QAbstractListModel::QAbstractListModel;
-  void set_entries(std::vector<std::string> entries);
+  void set_entries(const std::vector<std::string>& entries);
+  const std::vector<std::string>& entries() const { return entries_; }
   int rowCount(const QModelIndex& parent = {}) const override;
   QVariant data(const QModelIndex& index, int role) const override;
 
@@ -62,6 +63,7 @@ class EntryList : public QListView {
   explicit EntryList(QWidget* parent);
   void show_entries(const std::vector<std::string>& entries, int selected);
   void show_selected(int selected);
+  const std::vector<std::string>& entries() const { return model_.entries(); }
 
  signals:
   void chosen(int entry);
