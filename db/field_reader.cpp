@@ -12,10 +12,16 @@ constexpr std::array<bool, 256> table_of(std::string_view characters) {
 }
 
 constexpr auto kEndsField = table_of(",\r\n");
-constexpr auto kEndsPlainText = table_of(",\r\n \"");  // what stands before these needs no second look
 constexpr auto kEndsQuotedText = table_of("\"\r\n");
 constexpr std::ptrdiff_t kLongestPlain = FieldReader::kLongestField - 2;  // leaves room for quotes
 constexpr const char* kTooLong = "a field is longer than 64 KiB";
+
+// The first character from `at` on that is none of a plain field. The comma and all that ends a field or needs a second
+// look (blanks, quotes) come no later than it in the code page; of the characters of numbers only '+' does too.
+const char* behind_plain(const char* at) {
+  while (static_cast<unsigned char>(*at) > ',') ++at;
+  return at;
+}
 
 // The first character from `at` on that is in the table.
 const char* find(const std::array<bool, 256>& table, const char* at) {
@@ -72,7 +78,7 @@ bool FieldReader::next(std::span<Field> fields) {
   const char* at = next_;
   for (Field& field : fields) {
     const char* const begin = at;
-    const char* end = find(kEndsPlainText, at);
+    const char* end = behind_plain(at);
     if (end - begin <= kLongestPlain) {
       if (*end == ',') {
         field = {{begin, static_cast<std::size_t>(end - begin)}, false};

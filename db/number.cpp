@@ -48,8 +48,7 @@ std::string format_number(double value) {
   return text;
 }
 
-bool is_formatted(std::string_view text) {
-  if (text.size() == 1) return is_digit(text.front());  // most are
+bool is_formatted_longer(std::string_view text) {
   const char* const end = text.data() + text.size();
   const char* const whole = text.data() + (text.starts_with('-') ? 1 : 0);
   const char* const point = behind_digits(whole, end);

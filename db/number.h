@@ -20,7 +20,7 @@ void append_number(std::string& out, double value);
 std::string format_number(double value);
 
 // Whether `text` is just what append_number would make of its value, so that it can be copied as it stands.
-bool is_formatted(std::string_view text);
+inline bool is_formatted(std::string_view text);
 
 // A number as the window shows it: as in a file, with one blank in the place of a sign that is not there.
 // numtext(3) is " 3", numtext(-.25) is "-.25".
@@ -29,6 +29,7 @@ std::string numtext(double value);
 std::optional<double> parse_any_number(std::string_view text);  // parse_number for the less usual texts
 
 inline std::optional<double> parse_number(std::string_view text) {
+  if (text == "0") return 0;  // every third field
   // Most fields are short whole numbers, for which the conversion of integers is exact too, and quicker.
   if (text.size() <= std::numeric_limits<int>::digits10) {
     int whole = 0;
@@ -37,6 +38,12 @@ inline std::optional<double> parse_number(std::string_view text) {
       return whole;
   }
   return parse_any_number(text);
+}
+
+bool is_formatted_longer(std::string_view text);  // is_formatted for more than one character
+
+inline bool is_formatted(std::string_view text) {
+  return text.size() == 1 ? text.front() >= '0' && text.front() <= '9' : is_formatted_longer(text);
 }
 
 }  // namespace db

@@ -124,7 +124,7 @@ void Replacement::write_all(Handle handle, std::uint64_t offset, std::string_vie
 }
 
 void Replacement::verify(Handle handle, std::string_view content, const std::string& path) {
-  char block[16 * 1024];
+  char block[64 * 1024];
   for (;;) {
     std::size_t got = 0;
     require(uninterrupted([&] { return system_.read(handle, block, sizeof block, got); }), "read back", path);
