@@ -24,6 +24,14 @@ std::vector<std::string> names(int count) {
   return all;
 }
 
+// The toolkit begins and ends with each benchmark, and with each start of the program.
+struct Toolkit {
+  int argc = 1;
+  char name[13] = "window_bench";
+  char* argv[2] = {name, nullptr};
+  QApplication application{argc, argv};
+};
+
 // Until the picture of it is done.
 void paint(QWidget& widget) {
   widget.repaint();
@@ -31,6 +39,7 @@ void paint(QWidget& widget) {
 }
 
 void shown_list(benchmark::State& state) {
+  const Toolkit toolkit;
   const auto entries = names(4000);
   ui::qt::EntryList list(nullptr);
   list.resize(220, 300);
@@ -43,6 +52,7 @@ void shown_list(benchmark::State& state) {
 BENCHMARK(shown_list);
 
 void plain_list(benchmark::State& state) {
+  const Toolkit toolkit;
   const auto entries = names(4000);
   QStringListModel model;
   QListView list;
@@ -64,6 +74,7 @@ BENCHMARK(plain_list);
 void start(benchmark::State& state, const char* database) {
   for (auto _ : state) {
     std::ofstream("sorptemp.dat") << database;
+    const Toolkit toolkit;
     ui::memory::ScriptedDialogs dialogs;
     app::frmMaindb form(dialogs, file::system());
     ui::qt::MainWindow window(form);
@@ -88,6 +99,7 @@ double resident() {
 
 // A process of its own that shows an empty window, or the program with all its species, and prints its memory.
 int print_memory(bool program) {
+  const Toolkit toolkit;
   ui::memory::ScriptedDialogs dialogs;
   app::frmMaindb form(dialogs, file::system());
   QWidget empty;
@@ -118,7 +130,6 @@ double memory_of(const char* what) {
 
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
-  QApplication application(argc, argv);
   if (argc == 2) return print_memory(std::string_view(argv[1]) == "program");
 
   const auto folder = std::filesystem::current_path() / "bench-files";
