@@ -189,12 +189,12 @@ void check(const Operation& operation, const Fault& fault, const std::map<std::s
   EXPECT_NE(attempt.program.form.state().changedone, "Y");
 
   const bool told = attempt.program.told.size() > usual_boxes;
-  const bool kept = after.count("/work/dbnamep.mdb.keep") > 0;
+  const bool kept = after.count("/kelmar/dbnamep.mdb.keep") > 0;
   if (kept && fault.call == Call::Remove) {
     EXPECT_TRUE(told);
   } else if (kept) {
     // Overwriting and putting back failed both: what was written is whole under its other name, and the user knows it.
-    EXPECT_EQ(after.at("/work/dbnamep.mdb.keep"), whole.at("/work/x.mdb"));
+    EXPECT_EQ(after.at("/kelmar/dbnamep.mdb.keep"), whole.at("/kelmar/x.mdb"));
     EXPECT_NE(attempt.program.LastBox().find("its whole new content is in dbnamep.mdb.keep"), std::string::npos);
     EXPECT_TRUE(fault.for_ever);
     return;
@@ -208,7 +208,7 @@ void check(const Operation& operation, const Fault& fault, const std::map<std::s
         path.find("dbnamep") != std::string::npos && (fault.call == Call::Remove || fault.call == Call::Lock);
     EXPECT_TRUE(old || fresh || copy || leftover) << path << " holds " << content;
   }
-  EXPECT_EQ(after.count("/work/x.mdb"), 1u);
+  EXPECT_EQ(after.count("/kelmar/x.mdb"), 1u);
   EXPECT_TRUE(operation.silent || told || after == whole) << "the user was not told";
 }
 

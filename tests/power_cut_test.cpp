@@ -168,8 +168,8 @@ struct Case {
 TEST(PowerCut, LeavesAWholeDatabase) {
   int states = 0;
   for (const std::string& fresh : {kNew, kLonger}) {
-    for (const Case& c : {Case{"renamed", "/work/x.mdb", false}, Case{"other folder", "/other/x.mdb", false},
-                          Case{"other file system", "/far/x.mdb", false}, Case{"two names", "/work/two.mdb", true},
+    for (const Case& c : {Case{"renamed", "/kelmar/x.mdb", false}, Case{"other folder", "/other/x.mdb", false},
+                          Case{"other file system", "/far/x.mdb", false}, Case{"two names", "/kelmar/two.mdb", true},
                           Case{"closed folder", "/closed/x.mdb", true}}) {
       SCOPED_TRACE(c.name);
       MemorySystem memory;
@@ -178,12 +178,12 @@ TEST(PowerCut, LeavesAWholeDatabase) {
       memory.add_folder("/closed", {.device = 1, .writable = false});
       memory.add(c.target, kOld);
       memory.add("dbnamep.mdb", "a leftover");
-      if (c.target == "/work/two.mdb") memory.hard_link("/work/also.mdb", c.target);
+      if (c.target == "/kelmar/two.mdb") memory.hard_link("/kelmar/also.mdb", c.target);
       Recorder recorder(memory);
       recorder.examine_with([&](const Disk& disk) {
         const std::string found = content(disk, c.target);
         const bool whole = found == kOld || found == fresh;
-        const bool kept = c.overwrites && content(disk, "/work/dbnamep.mdb.keep") == fresh;
+        const bool kept = c.overwrites && content(disk, "/kelmar/dbnamep.mdb.keep") == fresh;
         EXPECT_TRUE(whole || kept) << "found: " << found;
       });
       {
@@ -206,7 +206,7 @@ TEST(PowerCut, WouldLoseADatabaseThatIsNotFlushed) {
   Recorder recorder(memory);
   int lost = 0;
   recorder.examine_with(
-      [&](const Disk& disk) { lost += content(disk, "/work/x.mdb") != kOld && content(disk, "/work/x.mdb") != kNew; });
+      [&](const Disk& disk) { lost += content(disk, "/kelmar/x.mdb") != kOld && content(disk, "/kelmar/x.mdb") != kNew; });
   file::Handle handle = -1;
   std::size_t put = 0;
   recorder.watched.create_new("t", file::Access::Private, handle);

@@ -34,7 +34,7 @@ class Replace : public testing::Test {
 TEST_F(Replace, KeepsWhatTheFileIsForOthers) {
   system.at("x.mdb").mode = 0664;
   system.link("link.mdb", "other.mdb");
-  system.link("other.mdb", "/work/x.mdb");
+  system.link("other.mdb", "/kelmar/x.mdb");
   EXPECT_EQ(replace("link.mdb"), "");
   EXPECT_EQ(system.at("link.mdb").type, Type::Link);
   EXPECT_EQ(system.content("x.mdb"), "new");
@@ -88,7 +88,7 @@ TEST_F(Replace, RefusesWhatWouldEndangerSomething) {
 
   const std::string in_the_way = "dbnamep.mdb is in the way: it is not a plain file. Remove it and try again.";
   for (const Type type : {Type::Link, Type::Folder, Type::Other}) {
-    system.add("dbnamep.mdb", "/work/x.mdb");
+    system.add("dbnamep.mdb", "/kelmar/x.mdb");
     system.at("dbnamep.mdb").type = type;
     EXPECT_EQ(replace("x.mdb"), in_the_way);
     EXPECT_TRUE(system.has("dbnamep.mdb"));
@@ -104,7 +104,7 @@ TEST_F(Replace, RefusesWhatWouldEndangerSomething) {
       "the open database is the temporary file dbnamep.mdb itself. Copy it to another name and open that.";
   system.hard_link("dbnamep.mdb", "x.mdb");
   EXPECT_EQ(replace("x.mdb"), itself);
-  EXPECT_EQ(replace("/work/dbnamep.mdb"), itself);
+  EXPECT_EQ(replace("/kelmar/dbnamep.mdb"), itself);
   EXPECT_EQ(system.content("dbnamep.mdb"), "old content");
 }
 
@@ -134,7 +134,7 @@ TEST_F(Replace, RemovesAPlainLeftoverButNoneInUse) {
 TEST_F(Replace, CopiesOverButNotOntoItself) {
   EXPECT_EQ(file::copy_over(system, "x.mdb", "y.mdb"), "");
   EXPECT_EQ(system.content("y.mdb"), "old content");
-  system.link("z.mdb", "/work/x.mdb");
+  system.link("z.mdb", "/kelmar/x.mdb");
   EXPECT_EQ(file::copy_over(system, "x.mdb", "z.mdb"), "");
   EXPECT_EQ(system.at("z.mdb").type, Type::Link);
   expect_nothing_left(3);

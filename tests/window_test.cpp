@@ -56,9 +56,10 @@ TEST_F(Story, StartUpWithoutHandOverFiles) {
   program.form.load();
   EXPECT_TRUE(program.form.window().ended);
   EXPECT_EQ(program.form.window().status, 1);
-  EXPECT_EQ(program.LastBox(),
-            "[The editor cannot start in /work: cannot open dabase.txt: No such file or directory. Start it from Kelmar, in "
-            "Kelmar's folder.]");
+  EXPECT_EQ(
+      program.LastBox(),
+      "[The editor cannot start in /kelmar: cannot open dabase.txt: No such file or directory. Start it from Kelmar, in "
+      "Kelmar's folder.]");
 
   Program second(system);
   system.add("dabase.txt", "C:");
@@ -217,7 +218,7 @@ TEST_F(Story, SavingToANewDatabase) {
   EXPECT_EQ(program.Text(lblNameDb), "new.mdb");
   // Onto the very file that is open nothing is copied, and it is saved.
   program.Select("CuX");
-  program.Choose("/work/new.mdb");
+  program.Choose("/kelmar/new.mdb");
   program.Click(cmdNewDb);
   EXPECT_EQ(system.content("new.mdb"), changed);
   // A failure is silent, a refusal of ours is not.

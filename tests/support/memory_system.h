@@ -27,9 +27,9 @@ class MemorySystem : public file::System {
     bool writable = true;
   };
 
-  MemorySystem() { add_folder("/work"); }
+  MemorySystem() { add_folder("/kelmar"); }
 
-  // Set-up and inspection; paths as the program gives them, relative ones from /work.
+  // Set-up and inspection; paths as the program gives them, relative ones from /kelmar.
   void add_folder(const std::string& path) { folders_[path] = Folder(); }
   void add_folder(const std::string& path, const Folder& folder) { folders_[path] = folder; }
   void add(const std::string& path, std::string content);
@@ -78,7 +78,7 @@ class MemorySystem : public file::System {
   std::map<std::string, std::shared_ptr<File>> files_;
   std::map<std::string, Folder> folders_;
   std::map<file::Handle, Open> handles_;
-  std::string current_ = "/work";
+  std::string current_ = "/kelmar";
   file::Handle next_handle_ = 3;
   std::uint64_t next_inode_ = 1;
 };

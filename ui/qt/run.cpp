@@ -12,10 +12,9 @@ namespace ui {
 namespace {
 
 // The toolkit ends the program by abort() when it finds no display; nothing has been opened by then.
-void end_without_display(QtMsgType type, const QMessageLogContext&, const QString& text) {
+void end_without_display(QtMsgType type, const QMessageLogContext&, const QString&) {
   if (type != QtFatalMsg) return;
-  std::fprintf(stderr, "kelmar-dbedit: the window cannot be opened, there is no display: %s\n",
-               text.section('\n', 0, 0).toLocal8Bit().constData());
+  std::fputs("kelmar-dbedit: the window cannot be opened: there is no display.\n", stderr);
   std::_Exit(1);
 }
 
