@@ -77,9 +77,12 @@ QRect Layout::place(int control, const QSize& size) const {
 }
 
 QFont Layout::font(int control, const QSize& size) const {
-  const double factor = std::min(static_cast<double>(size.width()) / start_size_.width(),
-                                 static_cast<double>(size.height()) / start_size_.height());
-  return scaled_font(def_.controls[static_cast<std::size_t>(control)].font, factor);
+  return scaled_font(def_.controls[static_cast<std::size_t>(control)].font, growth(size));
+}
+
+double Layout::growth(const QSize& size) const {
+  return std::min(static_cast<double>(size.width()) / start_size_.width(),
+                  static_cast<double>(size.height()) / start_size_.height());
 }
 
 }  // namespace ui::qt

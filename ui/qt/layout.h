@@ -21,9 +21,11 @@ class Layout {
   // For a client area of this size: a control's place and font.
   QRect place(int control, const QSize& size) const;
   QFont font(int control, const QSize& size) const;
+  QFont menu_font(const QSize& size) const { return scaled_font({}, growth(size)); }
 
  private:
   QFont scaled_font(const Font& font, double factor) const;
+  double growth(const QSize& size) const;  // of texts, since the start
   double width_needed(const ControlDef& control) const;
 
   const WindowDef& def_;

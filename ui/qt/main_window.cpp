@@ -55,7 +55,8 @@ MainWindow::MainWindow(Form& form)
   set_focus_order();
   area_->installEventFilter(this);
   area_->resize(layout_.start_size());
-  resize(layout_.start_size() + QSize(0, menuBar()->sizeHint().height()));
+  menu_height_ = menuBar()->sizeHint().height();
+  resize(layout_.start_size() + QSize(0, menu_height_));
 }
 
 void MainWindow::build(int control) {
@@ -147,6 +148,10 @@ void MainWindow::set_focus_order() {
 }
 
 void MainWindow::arrange() {
+  // By the size of the whole window: the menu's own height would feed back into it.
+  const QFont menu = layout_.menu_font(size() - QSize(0, menu_height_));
+  menuBar()->setFont(menu);
+  menuBar()->actions().front()->menu()->setFont(menu);
   for (int i = 0; i < controls(); ++i) {
     if (widget(i) == nullptr) continue;
     widget(i)->setFont(layout_.font(i, area_->size()));

@@ -50,6 +50,7 @@ class MainWindow : public QMainWindow {
   Form& form_;
   Layout layout_;
   QWidget* area_;
+  int menu_height_ = 0;  // at the start
   std::vector<QWidget*> widgets_;
   std::vector<QAction*> actions_;
   std::vector<Control> shown_;  // what was pushed last; the entries of a list are with its widget
