@@ -72,22 +72,24 @@ void frmMaindb::Form_Load() {
     return;
   }
   state_.cdbfile = false;
-  // Whatever of the hand-over fails is left undone in silence: the user can open a database by the menu.
-  if (drive.empty() || !system_.change_drive(drive.front())) {
-    if (!system_.change_folder(folder)) {
-      state_.dialog_folder = folder;
-      try {
-        state_.dbname = first_field(system_, "sorptemp.dat");
-        system_.remove("sorptemp.dat");
-      } catch (const file::Error&) {
-      }
-    }
-  }
+  take_hand_over(folder, drive);
   show({lblNameDb});
   set(lblNameDb, state_.dbname);
   show_kind_controls();
   window_[cboIsoterm].entries.assign(std::begin(kModels), std::end(kModels));
   Listfill();
+}
+
+// Whatever fails ends this in silence: the user can open a database by the menu.
+void frmMaindb::take_hand_over(const std::string& folder, const std::string& drive) {
+  if (!drive.empty() && system_.change_drive(drive.front())) return;
+  if (system_.change_folder(folder)) return;
+  state_.dialog_folder = folder;
+  try {
+    state_.dbname = first_field(system_, "sorptemp.dat");
+    system_.remove("sorptemp.dat");  // or it would be read again at the next start
+  } catch (const file::Error&) {
+  }
 }
 
 // The flags of the open database's kind, and what a counterion selectivity database shows.
@@ -121,8 +123,8 @@ void frmMaindb::Listfill() {
       set(lblIsoterm, "Critical f value");
       set(lblKsel, "Contributes to toxicity");
     }
-    list.entries.reserve(db::kMaxRecords);
     if (state_.blifile) set(txtf50, db::numtext(reader.read_blm().critical_f));
+    list.entries.reserve(db::kMaxRecords);
     while (const db::Record* record = reader.next()) list.entries.emplace_back(record->head[db::kName].text);
   } catch (const file::Error&) {
   }

@@ -44,6 +44,7 @@ class frmMaindb final : public ui::Form {
  private:
   // Start-up and the ways out (frmMaindb.cpp).
   void Form_Load();
+  void take_hand_over(const std::string& folder, const std::string& drive);
   void Listfill();
   void mnuFileOpen_Click();
   void cmdCompdb_Click();

@@ -3,6 +3,14 @@
 #include "file/input.h"
 
 namespace file {
+namespace {
+
+Refusal in_use(const std::string& path) {
+  return Refusal(path + " is in use: another editor is saving in this folder. Wait until it is done and try again.");
+}
+
+}  // namespace
+
 void Replacement::require(std::error_code error, std::string_view what, const std::string& path) {
   if (error) throw Error(failure(what, path, error));
 }
@@ -49,7 +57,6 @@ Replacement::~Replacement() {
 // Creates the file, removing a plain leftover of that name first, and locks it. The file is never opened through a link
 // and never emptied: what lies under the name may be somebody's only copy under another name.
 void Replacement::claim(Claim& claim, std::string path) {
-  const Refusal in_use(path + " is in use: another editor is saving in this folder. Wait until it is done and try again.");
   Status present;
   require(system_.status(path, Follow::Nothing, present), "look at", path);
   if (present.type == Type::Plain) {
@@ -59,7 +66,7 @@ void Replacement::claim(Claim& claim, std::string path) {
     // Removed while it is locked, so that two editors cannot both take it for a leftover.
     const auto removed = locked ? std::error_code() : system_.remove(path);
     system_.close(leftover);
-    if (locked == std::errc::operation_would_block) throw in_use;
+    if (locked == std::errc::operation_would_block) throw in_use(path);
     require(locked, "lock", path);
     require(removed, "remove", path);
   } else if (present.type != Type::Missing) {
@@ -70,25 +77,37 @@ void Replacement::claim(Claim& claim, std::string path) {
   // then nobody else can read what is written here.
   const Access access = target_status_.type == Type::Missing ? Access::Shared : Access::Private;
   const auto created = uninterrupted([&] { return system_.create_new(path, access, claim.writer); });
-  if (created == std::errc::file_exists) throw in_use;
+  if (created == std::errc::file_exists) throw in_use(path);
   require(created, "create", path);
   claim.path = std::move(path);  // from here on ours to remove
 
+  require(system_.status(claim.writer, claim.file), "look at", claim.path);
   // A handle of its own for the lock, which has to outlive the closing of the writer.
   require(uninterrupted([&] { return system_.open_existing(claim.path, claim.holder); }), "open", claim.path);
   const auto locked = uninterrupted([&] { return system_.lock(claim.holder); });
-  Status ours, named;
-  require(system_.status(claim.writer, ours), "look at", claim.path);
-  require(system_.status(claim.path, Follow::Nothing, named), "look at", claim.path);
-  if (locked == std::errc::operation_would_block || !ours.same_file(named)) {
-    claim.path.clear();  // another editor took it for a leftover between our two steps: it is theirs now
-    throw in_use;
+  if (locked == std::errc::operation_would_block) {
+    const std::string theirs = std::move(claim.path);  // another editor took it for a leftover before it was locked
+    claim.path.clear();
+    throw in_use(theirs);
   }
   require(locked, "lock", claim.path);
 }
 
+// Whether another editor has removed the file as a leftover, before it was locked, and put its own under the name.
+bool Replacement::is_taken(const Claim& claim) {
+  Status named;
+  return claim.file.type != Type::Missing && !system_.status(claim.path, Follow::Nothing, named) &&
+         named.type != Type::Missing && !named.same_file(claim.file);
+}
+
+// Only the file that was written here: another one under its name may be half done.
+std::error_code Replacement::rename(Claim& claim, const std::string& to) {
+  if (is_taken(claim)) throw in_use(claim.path);
+  return uninterrupted([&] { return system_.rename(claim.path, to); });
+}
+
 void Replacement::release(Claim& claim) {
-  if (!claim.path.empty()) uninterrupted([&] { return system_.remove(claim.path); });
+  if (!claim.path.empty() && !is_taken(claim)) uninterrupted([&] { return system_.remove(claim.path); });
   if (claim.writer != -1) system_.close(claim.writer);
   if (claim.holder != -1) system_.close(claim.holder);
   claim = {};
@@ -142,7 +161,7 @@ std::string Replacement::commit(std::string_view content) {
 
   // The one step that replaces: before it the path holds the whole old content, after it the whole new one, and there is
   // no moment between.
-  const auto error = uninterrupted([&] { return system_.rename(temporary_.path, target_); });
+  const auto error = rename(temporary_, target_);
   if (error == std::errc::cross_device_link) return copy_beside(content);
   if (target_status_.type == Type::Plain &&
       (error == std::errc::permission_denied || error == std::errc::operation_not_permitted))
@@ -171,7 +190,7 @@ std::string Replacement::copy_beside(std::string_view content) {
     throw;
   }
   write_claimed(beside_, content);
-  require(uninterrupted([&] { return system_.rename(beside_.path, target_); }), "replace", target_);
+  require(rename(beside_, target_), "replace", target_);
   return renamed(beside_);
 }
 
@@ -184,7 +203,7 @@ std::string Replacement::overwrite(std::string_view content) {
   require(uninterrupted([&] { return system_.open_existing(target_, handle); }), "open", target_);
   bool touched = false, lost = false;
   try {
-    require(uninterrupted([&] { return system_.rename(temporary_.path, kept_); }), "rename", temporary_.path);
+    require(rename(temporary_, kept_), "rename", temporary_.path);
     temporary_.path = kept_;
     require(uninterrupted([&] { return system_.flush_folder_of(kept_); }), "write to the disk the folder of", kept_);
     // What lies behind the old content first: a full disk shows here, where the old content can still be cut free.

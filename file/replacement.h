@@ -37,6 +37,7 @@ class Replacement {
   struct Claim {
     std::string path;
     Handle writer = -1, holder = -1;
+    Status file;  // which file it is, whatever comes to lie under its name
   };
 
   void claim(Claim& claim, std::string path);
@@ -44,6 +45,8 @@ class Replacement {
   void write_all(Handle handle, std::uint64_t offset, std::string_view bytes, const std::string& path);
   void verify(Handle handle, std::string_view content, const std::string& path);
   void release(Claim& claim);
+  bool is_taken(const Claim& claim);
+  std::error_code rename(Claim& claim, const std::string& to);
   std::string renamed(Claim& claim);
   std::string copy_beside(std::string_view content);
   std::string overwrite(std::string_view content);

@@ -126,6 +126,15 @@ TEST_F(Replace, RemovesAPlainLeftoverButNoneInUse) {
   EXPECT_EQ(system.content("x.mdb"), "first");
   EXPECT_EQ(replace("x.mdb"), "");
 
+  // A file that has come under the name meanwhile is another editor's: it takes nobody's place and is not removed.
+  {
+    file::Replacement first(system, "dbnamep.mdb", "x.mdb");
+    system.add("dbnamep.mdb", "half a database");
+    EXPECT_THROW((void)first.commit("second"), file::Refusal);
+  }
+  EXPECT_EQ(system.content("x.mdb") + ", " + system.content("dbnamep.mdb"), "new, half a database");
+  system.remove("dbnamep.mdb");
+
   system.add("dbnamep.mdb.keep", "whole");
   EXPECT_TRUE(replace("x.mdb").starts_with("dbnamep.mdb.keep holds the whole content"));
   EXPECT_EQ(system.content("dbnamep.mdb.keep"), "whole");

@@ -16,6 +16,17 @@ std::string species(const std::string& id, const std::string& name) {
   return lines({id + ",\"" + name + "\",0,1.5,0,0,2,0,0,0,0,2", "1,231,-1,9999"});
 }
 
+// Without components, and with an ID number typed in place of the one suggested.
+void add_species(Program& program) {
+  program.Click(cmdAddnew);
+  program.Type(txtSpname, "New");
+  program.Click(cmdSuggest);
+  program.Type(txtID, "7");
+  program.Type(txtlogk, "1");
+  program.Type(txtCharge, "0");
+  program.Save();
+}
+
 TEST(Controls, StandInTheTableUnderTheirNames) {
   const struct {
     int control;
@@ -194,13 +205,7 @@ TEST_F(Story, NineComponentsAreShownInPartAndCopiedWhole) {
 TEST_F(Story, NicaDonnanKeepsItsLeadingFieldBeforeAnySpeciesWasShown) {
   const std::string content = "\"NICA-Donnan\"\r\n" + species("501", "CuX") + kTrailer;
   Start("x.nic", content);
-  program.Click(cmdAddnew);
-  program.Type(txtSpname, "New");
-  program.Click(cmdSuggest);
-  program.Type(txtID, "7");
-  program.Type(txtlogk, "1");
-  program.Type(txtCharge, "0");
-  program.Save();
+  add_species(program);
   EXPECT_EQ(system.content("x.nic"),
             "\"NICA-Donnan\"\r\n" + lines({"7,\"New\",0,1,0,0,0,0,0,0,0,0"}) + species("501", "CuX") + kTrailer);
 }
@@ -242,13 +247,7 @@ TEST_F(Story, FullDatabaseTakesNoFurtherSpecies) {
   std::string content;
   for (int i = 1; i <= 3999; ++i) content += lines({"1,\"a\",0,0,0,0,0,0,0,0,0,0"});
   Start("x.mdb", content + kTrailer);
-  program.Click(cmdAddnew);
-  program.Type(txtSpname, "New");
-  program.Click(cmdSuggest);
-  program.Type(txtID, "7");
-  program.Type(txtlogk, "1");
-  program.Type(txtCharge, "0");
-  program.Save();
+  add_species(program);
   EXPECT_EQ(program.LastBox(),
             "[x.mdb is full: a species database holds at most 3999 species. Delete one first, or add this one to another "
             "database.]");
