@@ -76,9 +76,12 @@ void MainWindow::build(int control) {
       break;
     }
     case Kind::Line: {
-      auto* line = new QFrame(area_);
-      line->setFrameStyle(QFrame::HLine | QFrame::Plain);
-      widget = line;
+      // Filled, not drawn: a drawn line may vanish where the screen's scale is no whole number.
+      widget = new QWidget(area_);
+      QPalette palette = widget->palette();
+      palette.setColor(QPalette::Window, to_qt(def(control).color));
+      widget->setPalette(palette);
+      widget->setAutoFillBackground(true);
       break;
     }
     case Kind::TextBox: return build_text_box(control);

@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScrollBar>
 #include <QWheelEvent>
 
 #include "ui/qt/text.h"
@@ -64,6 +65,13 @@ EntryList::EntryList(QWidget* parent) : QListView(parent), model_(this) {
   setModel(&model_);
   setUniformItemSizes(true);  // or every row is measured
   setEditTriggers(NoEditTriggers);
+  setFrameStyle(QFrame::Box | QFrame::Plain);  // the style's own frame vanishes in part at a scale of 1.5
+  const QPalette usual = palette();
+  QPalette frame = usual;
+  frame.setColor(QPalette::WindowText, frame.color(QPalette::Mid));
+  setPalette(frame);
+  verticalScrollBar()->setPalette(usual);
+  horizontalScrollBar()->setPalette(usual);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
 }
 
