@@ -66,10 +66,10 @@ EntryList::EntryList(QWidget* parent) : QListView(parent), model_(this) {
   setUniformItemSizes(true);  // or every row is measured
   setEditTriggers(NoEditTriggers);
   setFrameStyle(QFrame::Box | QFrame::Plain);  // the style's own frame vanishes in part at a scale of 1.5
-  const QPalette usual = palette();
-  QPalette frame = usual;
+  QPalette usual = palette(), frame = usual;
   frame.setColor(QPalette::WindowText, frame.color(QPalette::Mid));
   setPalette(frame);
+  usual.setColor(QPalette::WindowText, usual.color(QPalette::WindowText));  // said, lest it be inherited from the list
   verticalScrollBar()->setPalette(usual);
   horizontalScrollBar()->setPalette(usual);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
