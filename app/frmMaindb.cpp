@@ -1,7 +1,10 @@
 #include "app/frmMaindb.h"
 
+#include <utility>
+
 #include "app/start_up.h"
-#include "db/kind.h"
+#include "db/listing.h"
+#include "db/number.h"
 
 namespace app {
 namespace {
@@ -66,38 +69,40 @@ void frmMaindb::Form_Load() {
       throw file::Error("the folder cannot be entered: " + error.message() + ".");
     drive = first_field(system_, "dabase.txt");
   } catch (const file::Error& error) {
-    refuse("The editor cannot start in " + folder + ": " + error.what() + " Start it from Kelmar, in Kelmar's folder.");
+    refuse("The editor cannot start" + (folder.empty() ? "" : " in " + folder) + ": " + error.what() +
+           " Start it from Kelmar, in Kelmar's folder.");
     window_.ended = true;
     window_.status = 1;
     return;
   }
-  state_.cdbfile = false;
-  take_hand_over(folder, drive);
-  show({lblNameDb});
-  set(lblNameDb, state_.dbname);
-  show_kind_controls();
+  open_database(take_hand_over(folder, drive));
   window_[cboIsoterm].entries.assign(std::begin(kModels), std::end(kModels));
   Listfill();
 }
 
-// Whatever fails ends this in silence: the user can open a database by the menu.
-void frmMaindb::take_hand_over(const std::string& folder, const std::string& drive) {
-  if (!drive.empty() && system_.change_drive(drive.front())) return;
-  if (system_.change_folder(folder)) return;
+// The path of the database. Whatever fails ends this in silence: the user can open one by the menu.
+std::string frmMaindb::take_hand_over(const std::string& folder, const std::string& drive) {
+  if (!drive.empty() && system_.change_drive(drive.front())) return "";
+  if (system_.change_folder(folder)) return "";
   state_.dialog_folder = folder;
   try {
-    state_.dbname = first_field(system_, "sorptemp.dat");
+    std::string path = first_field(system_, "sorptemp.dat");
     system_.remove("sorptemp.dat");  // or it would be read again at the next start
+    return path;
   } catch (const file::Error&) {
+    return "";
   }
 }
 
-// The flags of the open database's kind, and what a counterion selectivity database shows.
-void frmMaindb::show_kind_controls() {
-  const db::Kind kind = db::kind_of(state_.dbname);
-  state_.blifile = kind == db::Kind::Blm;
-  state_.cdbfile = kind == db::Kind::Counterion;
-  if (state_.cdbfile && !db::is_donnica(state_.dbname)) show({txtKsel, lblKsel});
+void frmMaindb::open_database(std::string path) {
+  state_.open.kind = db::kind_of(path);
+  state_.open.path = std::move(path);
+  state_.open.misplaced = false;
+  show({lblNameDb});
+  set(lblNameDb, state_.open.path);
+  if (!state_.open.cdbfile() || db::is_donnica(state_.open.path)) return;
+  show({txtKsel, lblKsel});
+  set(lblKsel, "Selectivity coefficient (K-sel)");
 }
 
 void frmMaindb::Listfill() {
@@ -106,61 +111,53 @@ void frmMaindb::Listfill() {
   list.selected = -1;
   show({txtdhr, lbldhr});
   set(lbldhr, "dHr (kJ/mol)");
-  // Any failure ends the loading here in silence; the list keeps what it got.
-  try {
-    db::SpeciesReader reader(system_, state_.dbname);
-    state_.mbfields = false;
-    const db::Kind kind = db::kind_of(state_.dbname);
-    if (kind != db::Kind::Isotherm) {
-      set(lblLogk, "log K");
-      hide({lblMA, lblMB, lblMBnote});
-    }
-    if (kind == db::Kind::NicaDonnan) reader.read_model();
-    if (kind == db::Kind::Isotherm) {
-      show_model(reader.read_model());
-    } else if (state_.blifile) {
-      show({txtf50, lblIsoterm, lblKsel, txtKsel});
-      set(lblIsoterm, "Critical f value");
-      set(lblKsel, "Contributes to toxicity");
-    }
-    if (state_.blifile) set(txtf50, db::numtext(reader.read_blm().critical_f));
-    list.entries.reserve(db::kMaxRecords);
-    while (const db::Record* record = reader.next()) list.entries.emplace_back(record->head[db::kName].text);
-  } catch (const file::Error&) {
+  db::Listing listing = db::list_species(system_, state_.open);
+  if (!listing.opened) return;
+  state_.open.mbfields = false;
+  const db::Kind by_name = db::kind_of(state_.open.path);
+  if (by_name != db::Kind::Isotherm) {
+    set(lblLogk, "log K");
+    hide({lblMA, lblMB, lblMBnote});
   }
+  if (!listing.led && db::leading_of(by_name).model) return;
+  if (by_name == db::Kind::Isotherm) {
+    show_model(*listing.leading.model);
+  } else if (state_.open.blifile()) {
+    show({txtf50, lblIsoterm, lblKsel, txtKsel});
+    set(lblIsoterm, "Critical f value");
+    set(lblKsel, "Contributes to toxicity");
+  }
+  if (listing.leading.blm) set(txtf50, db::numtext(listing.leading.blm->critical_f));
+  list.entries = std::move(listing.names);
 }
 
 // The controls of an isotherm database; a model picked by the user goes before the one in the file.
 void frmMaindb::show_model(const std::string& model_in_file) {
-  state_.isomodel = model_in_file;
+  state_.open.isomodel = model_in_file;
   if (state_.isoselect.empty())
-    state_.isoselect = state_.isomodel;
+    state_.isoselect = state_.open.isomodel;
   else
-    state_.isomodel = state_.isoselect;
+    state_.open.isomodel = state_.isoselect;
   show({cboIsoterm, lblIsoterm});
   set(lblIsoterm, "Isotherm model");
-  set(cboIsoterm, state_.isomodel);
-  if (state_.isomodel == "NICA")
+  set(cboIsoterm, state_.open.isomodel);
+  if (state_.open.isomodel == "NICA")
     set(lbldhr, "p");
   else
     hide({txtdhr, lbldhr, txtKsel, lblKsel});
-  if (const auto caption = logk_caption(state_.isomodel); !caption.empty()) set(lblLogk, std::string(caption));
-  state_.mbfields = uses_mb(state_.isomodel);
-  set_shown({lblMA, lblMB, lblMBnote}, state_.mbfields);
+  if (const auto caption = logk_caption(state_.open.isomodel); !caption.empty()) set(lblLogk, std::string(caption));
+  state_.open.mbfields = uses_mb(state_.open.isomodel);
+  set_shown({lblMA, lblMB, lblMBnote}, state_.open.mbfields);
 }
 
 void frmMaindb::mnuFileOpen_Click() {
   const auto chosen =
       dialogs_.choose_file({.form = ui::FileRequest::Form::Open, .filter = kDatabaseFilter, .folder = state_.dialog_folder});
   if (!chosen) return;
-  state_.isomodel.clear();
+  state_.open.isomodel.clear();
   state_.isoselect.clear();
   hide({lblKsel, txtKsel, txtf50, lblIsoterm, cboIsoterm});
-  state_.dbname = *chosen;
-  show({lblNameDb});
-  set(lblNameDb, state_.dbname);
-  show_kind_controls();
-  if (state_.cdbfile && !db::is_donnica(state_.dbname)) set(lblKsel, "Selectivity coefficient (K-sel)");
+  open_database(*chosen);
   Listfill();
 }
 

@@ -3,10 +3,13 @@
 // The names are those under which the program has always been documented: control, underscore, event.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "app/controls.h"
+#include "db/rewrite.h"
 #include "edit/species_record.h"
 #include "edit/suggestion.h"
 #include "file/error.h"
@@ -22,12 +25,8 @@ class frmMaindb final : public ui::Form {
   // What the window holds beside its controls, for the life of the program.
   struct State {
     std::string compdb;         // path of the component database
-    std::string dbname;         // path of the open species database
-    bool blifile = false;       // it is a BLM parameter database
-    bool cdbfile = false;       // it is a counterion selectivity database
-    std::string isomodel;       // its isotherm model
+    db::Database open;          // the species database: dbname, blifile, cdbfile, isomodel, mbfields
     std::string isoselect;      // the model picked, or taken from the file
-    bool mbfields = false;      // M.B. stoichiometries are in use
     std::string changedone;     // "Y" from writing a changed record until savedb acts on it, else "N"
     bool suggestrun = false;    // a suggestion is running: a selection shows nothing
     int compslot = 0;           // the row that the next component of a new species goes into
@@ -44,7 +43,7 @@ class frmMaindb final : public ui::Form {
  private:
   // Start-up and the ways out (frmMaindb.cpp).
   void Form_Load();
-  void take_hand_over(const std::string& folder, const std::string& drive);
+  std::string take_hand_over(const std::string& folder, const std::string& drive);
   void Listfill();
   void mnuFileOpen_Click();
   void cmdCompdb_Click();
@@ -64,7 +63,8 @@ class frmMaindb final : public ui::Form {
   void cmdNewDb_Click();
   void cmdDelete_Click();
   void savedb();
-  void SpeciesChange(std::string& out);
+  void SpeciesChange(db::Rewrite& rewrite);
+  db::NewLeading new_leading(const std::string& model) const;
 
   // Controls.
   const std::string& text(int control) const { return window_[control].text; }
@@ -75,17 +75,29 @@ class frmMaindb final : public ui::Form {
   void hide_rows();
   void empty_rows();
   void select_species(std::string_view text);
-  void remove_selected_species();
-  std::string selected_species() const;  // its text without blanks at the ends
-  void show_kind_controls();
+  void remove_species(int entry);
+  std::optional<std::string> selected_species() const;  // its text without blanks at the ends
+  void open_database(std::string path);
   void show_model(const std::string& model_in_file);
   void take_pending_component();
+  void suggest_id();
   bool refuse_ninth_component();
   void show_values(const edit::Shown& shown);
   edit::Entry entry() const;
-  edit::Database database() const { return {state_.isomodel, state_.blifile, state_.cdbfile, state_.mbfields}; }
 
   // Messages.
+  // Does it; what stopped it, to be shown: a refusal as it stands, a failure between these words.
+  template <typename Action>
+  static std::optional<std::string> message_of(Action action, std::string_view before, std::string_view after) {
+    try {
+      action();
+    } catch (const file::Refusal& refusal) {
+      return refusal.what();
+    } catch (const file::Error& error) {
+      return std::string(before).append(error.what()).append(after);
+    }
+    return std::nullopt;
+  }
   void refuse(std::string_view prompt, std::string_view title = "Kelmar error");
   bool confirm(std::string_view prompt, std::string_view title);
 

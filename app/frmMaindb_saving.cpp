@@ -1,17 +1,21 @@
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+
 #include "app/frmMaindb.h"
-#include "db/rewrite.h"
 #include "db/text.h"
-#include "edit/leading_fields.h"
+#include "edit/values.h"
 #include "file/replacement.h"
 
 namespace app {
 namespace {
 
 // The one filter that fits the open database.
-std::string_view save_filter(const edit::Database& open) {
-  if (open.isomodel.empty() && !open.cdbfile && !open.blifile) return "Sorption database files (*.MDB)|*.MDB";
-  if (open.cdbfile) return "Counterion selectivity files (*.CDB)|*.CDB";
-  if (open.isomodel != db::kNicaDonnan && !open.blifile) return "Isotherm database files (*.ISO)|*.ISO";
+std::string_view save_filter(const db::Database& open) {
+  if (open.isomodel.empty() && !open.cdbfile() && !open.blifile()) return "Sorption database files (*.MDB)|*.MDB";
+  if (open.cdbfile()) return "Counterion selectivity files (*.CDB)|*.CDB";
+  if (open.isomodel != db::kNicaDonnan && !open.blifile()) return "Isotherm database files (*.ISO)|*.ISO";
   if (open.isomodel == db::kNicaDonnan) return "NICA-Donnan database files (*.NIC)|*.NIC";
   return "BLM parameter files (*.BLI)|*.BLI";
 }
@@ -23,29 +27,28 @@ void frmMaindb::cmdSavedb_Click() {
           "Are you really sure you would like to save changes to the database? - The old settings will disappear forever",
           "Species change - Kelmar"))
     return;
-  try {
-    savedb();
-  } catch (const file::Refusal& refusal) {
-    refuse(refusal.what());
-  } catch (const file::Error& error) {
-    refuse(std::string("The database was not saved: ") + error.what() + " Put that right and save again.");
-  }
+  const auto failure = message_of([this] { savedb(); }, "The database was not saved: ", " Put that right and save again.");
+  if (failure) refuse(*failure);
 }
 
 void frmMaindb::cmdNewDb_Click() {
-  const std::string old_dbname = state_.dbname;
   const auto chosen = dialogs_.choose_file({.form = ui::FileRequest::Form::Save,
-                                            .filter = save_filter(database()),
+                                            .filter = save_filter(state_.open),
                                             .folder = state_.dialog_folder,
-                                            .writes = true});
+                                            .extension = db::name_of(state_.open.kind).extension});
   if (!chosen) return;
   // Whatever fails from here on ends the handler in silence, but not what the program itself refuses.
   try {
-    state_.dbname = *chosen;
-    const std::string warning = file::copy_over(system_, old_dbname, state_.dbname);
-    set(lblNameDb, state_.dbname);
+    const file::Spared components = db::spare_components(state_.compdb);
+    file::refuse_spared(system_, *chosen, components);
+    const std::string old_dbname = std::exchange(state_.open.path, *chosen);
+    const bool misplaced = std::exchange(state_.open.misplaced, true);  // until it is copied
+    const std::string warning = file::copy_over(system_, old_dbname, *chosen, components);
+    state_.open.misplaced = misplaced;
+    set(lblNameDb, *chosen);
     savedb();
     if (!warning.empty()) refuse(warning);
+    if (const std::string misnamed = db::misnamed(state_.open); !misnamed.empty()) refuse(misnamed);
   } catch (const file::Refusal& refusal) {
     refuse(refusal.what());
   } catch (const file::Error&) {
@@ -53,38 +56,36 @@ void frmMaindb::cmdNewDb_Click() {
 }
 
 void frmMaindb::savedb() {
-  const std::string species = selected_species();
-  if (species.empty() && db::trimmed(text(cboIsoterm)).empty())
+  const auto species = selected_species();
+  if (species.value_or("").empty() && db::trimmed(text(cboIsoterm)).empty())
     return refuse("Please use the mouse to select the database species to be changed before saving");
   for (const int required : {txtlogk, txtCharge, txtID, txtNocomp})
     if (db::trimmed(text(required)).empty())
       return refuse("One or more required data fields have been left blank. Please complete before saving");
 
   state_.changedone = "N";
-  const bool add = !species.empty() && species == db::trimmed(text(txtSpname));
-  if (!add && state_.isomodel == db::kNicaDonnan) state_.isoselect = db::kNicaDonnan;
-  db::Rewrite order;
-  order.database = state_.dbname;
-  edit::set_leading_fields(order, database(), add ? state_.isomodel : state_.isoselect, text(txtf50));
-  if (add)
-    order.first = [this](std::string& out) {
-      SpeciesChange(out);
-      state_.changedone = "N";
-    };
-  order.decide = [this, add, &species](const db::Record& record, std::string& out) {
-    if (!add && record.head[db::kName].text == species) SpeciesChange(out);
-    if (state_.changedone != "Y") return db::Decision::Keep;
+  const bool add = species && !species->empty() && *species == db::trimmed(text(txtSpname));
+  if (!add && state_.open.isomodel == db::kNicaDonnan) state_.isoselect = db::kNicaDonnan;
+  db::Rewrite rewrite(system_, state_.open, state_.compdb, new_leading(add ? state_.open.isomodel : state_.isoselect));
+  const auto put_species = [&] {
+    SpeciesChange(rewrite);
     state_.changedone = "N";
-    return db::Decision::Replace;
   };
-  const std::string warning = db::rewrite(system_, order);
+  if (add) put_species();
+  while (rewrite.keep_until(add ? std::nullopt : species)) put_species();
+  const std::string warning = rewrite.commit();
   if (add) Newspecdelete();
   Listfill();
   if (!warning.empty()) refuse(warning);
 }
 
-void frmMaindb::SpeciesChange(std::string& out) {
-  edit::append_species(out, entry(), database(), system_, state_.compdb);
+db::NewLeading frmMaindb::new_leading(const std::string& model) const {
+  return {.model = model, .critical_f = state_.open.blifile() ? edit::number_rule(text(txtf50)) : 0};
+}
+
+void frmMaindb::SpeciesChange(db::Rewrite& rewrite) {
+  const edit::Entry species = entry();
+  rewrite.put(edit::species_record(species, state_.open, edit::numbers_of(species.components(), system_, state_.compdb)));
   state_.changedone = "Y";
 }
 
@@ -108,31 +109,28 @@ edit::Entry frmMaindb::entry() const {
 }
 
 void frmMaindb::cmdDelete_Click() {
-  const std::string species = selected_species();
+  const int entry = window_[lstReactions].selected;
+  const std::string species = selected_species().value_or("");
   if (species.empty()) return refuse("No species defined", "Kelmar");
   if (species == db::trimmed(text(txtSpname))) {
     refuse("This species is not yet in the database anyway", "Kelmar");
-    return remove_selected_species();
+    return remove_species(entry);
   }
   if (!confirm("Are you really sure you would like to delete this species from the database? Once deleted it is gone!",
                "Deletion of species - Kelmar"))
     return;
 
-  db::Rewrite order;
-  order.database = state_.dbname;
   std::string warning;
-  try {
-    edit::set_leading_fields(order, database(), state_.isomodel, text(txtf50));
-    order.decide = [&species](const db::Record& record, std::string&) {
-      return record.head[db::kName].text == species ? db::Decision::Drop : db::Decision::Keep;
-    };
-    warning = db::rewrite(system_, order);
-  } catch (const file::Refusal& refusal) {
-    return refuse(refusal.what());
-  } catch (const file::Error& error) {
-    return refuse(std::string("The species was not deleted: ") + error.what() + " Put that right and try again.");
-  }
-  remove_selected_species();
+  const auto failure = message_of(
+      [&] {
+        db::Rewrite rewrite(system_, state_.open, state_.compdb, new_leading(state_.open.isomodel));
+        while (rewrite.keep_until(species)) {
+        }
+        warning = rewrite.commit();
+      },
+      "The species was not deleted: ", " Put that right and try again.");
+  if (failure) return refuse(*failure);
+  remove_species(entry);
   empty_rows();
   for (const int box : {txtID, txtName, txtlogk, txtdhr, txtCharge, txtKsel}) set(box, "");
   set(txtNocomp, "0");

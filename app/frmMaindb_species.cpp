@@ -1,4 +1,8 @@
 #include <algorithm>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
 
 #include "app/frmMaindb.h"
 #include "db/number.h"
@@ -16,22 +20,16 @@ void frmMaindb::lstReactions_Click() {
   if (state_.suggestrun) return;
   hide_rows();
   hide({lblLk2, txtLk2});
-  edit::Database open = database();
   std::optional<edit::Shown> shown;
-  std::string failure;
-  try {
-    shown = edit::show_species(system_, state_.dbname, state_.compdb, selected_species(), open);
-  } catch (const file::Error& error) {
-    failure = std::string("The species cannot be shown: ") + error.what() +
-              " Mend the file with a text editor, or open another one.";
-  }
-  state_.isomodel = open.isomodel;
+  const auto failure =
+      message_of([&] { shown = edit::show_species(system_, state_.open, state_.compdb, selected_species().value_or("")); },
+                 "The species cannot be shown: ", " Mend the file with a text editor, or open another one.");
   if (shown) show_values(*shown);
   if (shown && !shown->notice.empty()) refuse(shown->notice);
-  if (failure.empty()) return;
+  if (!failure) return;
   for (const int box : {txtID, txtName, txtlogk, txtLk2, txtdhr, txtKsel, txtCharge, txtNocomp}) set(box, "");
   hide({cmdDelete});
-  refuse(failure);
+  refuse(*failure);
 }
 
 void frmMaindb::show_values(const edit::Shown& shown) {
@@ -54,7 +52,7 @@ void frmMaindb::show_values(const edit::Shown& shown) {
   int i = 0;
   for (const edit::Row& row : shown.rows) {
     ++i;
-    if (state_.mbfields) {
+    if (state_.open.mbfields) {
       show({txtMBstoich(i)});
       set(txtMBstoich(i), row.mbstoich);
     }
@@ -68,10 +66,10 @@ void frmMaindb::show_values(const edit::Shown& shown) {
 void frmMaindb::cmdAddnew_Click() {
   show({lblAddnew, lblComp, txtSpname, cboComp, lblSpname, cmdNextcomp, txtStoicn, cmdSuggest});
   hide({cmdDelete, lblLk2, txtLk2});
-  if (state_.mbfields) show({lblMAnote});
+  if (state_.open.mbfields) show({lblMAnote});
   set(txtSpname, "");
   set(lblComp, component_caption("1"));
-  edit::Choices choices = edit::component_choices(system_, state_.compdb, state_.isomodel, state_.cdbfile);
+  edit::Choices choices = edit::component_choices(system_, state_.compdb, state_.open.isomodel, state_.open.cdbfile());
   window_[cboComp].entries = std::move(choices.names);
   empty_rows();
   select_species("");
@@ -94,7 +92,7 @@ bool frmMaindb::refuse_ninth_component() {
 void frmMaindb::take_pending_component() {
   const int k = state_.compslot;
   show({txtComp(k), txtStoich(k), lblStoich(k)});
-  if (state_.mbfields) show({txtMBstoich(k)});
+  if (state_.open.mbfields) show({txtMBstoich(k)});
   set(txtComp(k), text(cboComp));
   set(txtStoich(k), text(txtStoicn));
   set(txtStoicn, "");
@@ -113,27 +111,26 @@ void frmMaindb::cmdSuggest_Click() {
   if (pending) take_pending_component();
   set(txtNocomp, db::numtext(state_.compslot - 1));
 
-  std::string failure;
-  try {
-    edit::numgenerator2(system_, state_.compdb, text(txtComp(1)), text(txtComp(2)), state_.idcompno);
-    state_.idcompno = edit::with_site(state_.idcompno, state_.isomodel, text(txtComp(1)));
-    const edit::FreeId candidates(state_.idcompno);
-    if (edit::range_of(candidates.first_candidate()) != edit::IdRange::None) {
-      show({txtLk2, lblLk2});
-      set(txtLk2, " 0");
-      if (state_.isomodel == "NICA") {
-        show({txtKsel});
-        set(txtdhr, " 0");
-        set(txtKsel, " 0");
-      }
-    }
-    set(txtID, db::numtext(edit::first_free_id(system_, state_.dbname, state_.blifile, candidates)));
-  } catch (const file::Error& error) {
-    failure = std::string("No ID number can be suggested: ") + error.what() +
-              " Type an ID number, or mend the file and try again.";
-  }
+  const auto failure = message_of([this] { suggest_id(); },
+                                  "No ID number can be suggested: ", " Type an ID number, or mend the file and try again.");
   state_.suggestrun = false;
-  if (!failure.empty()) refuse(failure);
+  if (failure) refuse(*failure);
+}
+
+void frmMaindb::suggest_id() {
+  edit::numgenerator2(system_, state_.compdb, text(txtComp(1)), text(txtComp(2)), state_.idcompno);
+  state_.idcompno = edit::with_site(state_.idcompno, state_.open.isomodel, text(txtComp(1)));
+  const edit::FreeId candidates(state_.idcompno);
+  if (edit::range_of(candidates.first_candidate()) != edit::IdRange::None) {
+    show({txtLk2, lblLk2});
+    set(txtLk2, " 0");
+    if (state_.open.isomodel == "NICA") {
+      show({txtKsel});
+      set(txtdhr, " 0");
+      set(txtKsel, " 0");
+    }
+  }
+  set(txtID, db::numtext(edit::first_free_id(system_, state_.open, candidates)));
 }
 
 void frmMaindb::Newspecdelete() {
@@ -158,12 +155,15 @@ void frmMaindb::select_species(std::string_view text) {
   list.selected = text.empty() || found == list.entries.end() ? -1 : static_cast<int>(found - list.entries.begin());
 }
 
-void frmMaindb::remove_selected_species() {
+void frmMaindb::remove_species(int entry) {
   ui::Control& list = window_[lstReactions];
-  if (list.selected >= 0) list.entries.erase(list.entries.begin() + list.selected);
+  list.entries.erase(list.entries.begin() + entry);
   list.selected = -1;
 }
 
-std::string frmMaindb::selected_species() const { return std::string(db::trimmed(window_[lstReactions].selected_text())); }
+std::optional<std::string> frmMaindb::selected_species() const {
+  const ui::Control& list = window_[lstReactions];
+  return list.selected < 0 ? std::nullopt : std::optional<std::string>(db::trimmed(list.selected_text()));
+}
 
 }  // namespace app

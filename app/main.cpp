@@ -1,3 +1,5 @@
+#include <memory>
+
 #include "app/frmMaindb.h"
 #include "ui/backend.h"
 

@@ -3,6 +3,9 @@
 
 #include <filesystem>
 #include <fstream>
+#include <optional>
+#include <string>
+#include <vector>
 
 #include "data.h"
 #include "db/rewrite.h"
@@ -26,10 +29,11 @@ void loading(benchmark::State& state) {
 
 void saving(benchmark::State& state) {
   prepare(state);
-  db::Rewrite order;
-  order.database = "bench.mdb";
-  order.decide = [](const db::Record&, std::string&) { return db::Decision::Keep; };
-  for (auto _ : state) benchmark::DoNotOptimize(db::rewrite(file::system(), order));
+  for (auto _ : state) {
+    db::Rewrite rewrite(file::system(), {.path = "bench.mdb"}, "comp.mdb", {});
+    rewrite.keep_until(std::nullopt);
+    benchmark::DoNotOptimize(rewrite.commit());
+  }
 }
 
 void sizes(benchmark::internal::Benchmark* benchmark) {

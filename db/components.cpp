@@ -1,6 +1,8 @@
 #include "db/components.h"
 
 #include <algorithm>
+#include <array>
+#include <string_view>
 
 #include "db/text.h"
 
@@ -19,9 +21,8 @@ std::optional<double> site_number(std::string_view name) {
 }
 
 bool ComponentReader::next(Component& component) {
-  if (records_ == limit_ || fields_.at_end()) return false;
+  if (records_ == limit_ || !fields_.begin_record()) return false;
   ++records_;
-  fields_.begin_record();
   try {
     std::array<Field, 6> fields;
     cut_short_ = !fields_.next(fields);

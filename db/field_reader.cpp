@@ -1,6 +1,12 @@
 #include "db/field_reader.h"
 
+#include <algorithm>
+#include <cstdint>
 #include <cstring>
+#include <string_view>
+#include <utility>
+
+#include "db/format.h"
 
 namespace db {
 namespace {
@@ -13,6 +19,8 @@ constexpr std::array<bool, 256> table_of(std::string_view characters) {
 
 constexpr auto kEndsField = table_of(",\r\n");
 constexpr auto kEndsQuotedText = table_of("\"\r\n");
+constexpr auto kBlank = table_of(" \t");
+constexpr auto kEmpty = table_of(" \t,\r\n");  // what fields without a value are made of
 constexpr std::ptrdiff_t kLongestPlain = FieldReader::kLongestField - 2;  // leaves room for quotes
 constexpr const char* kTooLong = "a field is longer than 64 KiB";
 
@@ -23,9 +31,11 @@ const char* behind_plain(const char* at) {
   return at;
 }
 
+bool is_in(const std::array<bool, 256>& table, char c) { return table[static_cast<unsigned char>(c)]; }
+
 // The first character from `at` on that is in the table.
 const char* find(const std::array<bool, 256>& table, const char* at) {
-  while (!table[static_cast<unsigned char>(*at)]) ++at;
+  while (!is_in(table, *at)) ++at;
   return at;
 }
 
@@ -35,12 +45,34 @@ FieldReader::FieldReader(file::System& system, std::string path) : input_(system
   blocks_.push_back(std::make_unique_for_overwrite<Block>());
   blocks_.back()->front() = '\n';
   next_ = end_ = blocks_.back()->data();
+  const char* at = next_;
+  while (end_ - next_ < std::ssize(kByteOrderMark) && refill(at)) {
+  }
+  if (std::string_view(next_, end_).starts_with(kByteOrderMark)) next_ += kByteOrderMark.size();
 }
 
-void FieldReader::begin_record() {
+void FieldReader::forget() {
   if (blocks_.size() == 1) return;
   spare_ = std::move(blocks_.front());
   blocks_.erase(blocks_.begin(), blocks_.end() - 1);
+}
+
+bool FieldReader::begin_record() {
+  forget();
+  return !at_end() && (static_cast<unsigned char>(*next_) > ',' || !only_blanks_left());
+}
+
+// Looks ahead without taking anything: what only begins like the end may be a record.
+bool FieldReader::only_blanks_left() const {
+  int marks = 0;
+  const auto is_nothing = [&marks](char c) { return is_in(kEmpty, c) || (c == kCtrlZ && ++marks == 1); };
+  if (!std::all_of(next_, end_, is_nothing)) return false;
+  std::array<char, 4096> ahead;
+  for (std::uint64_t offset = offset_;;) {
+    const std::size_t got = input_.read(offset, ahead.data(), ahead.size());
+    if (got == 0 || !std::all_of(ahead.begin(), ahead.begin() + got, is_nothing)) return got == 0;
+    offset += got;
+  }
 }
 
 // Reads on behind the last byte. When the block is full, a new one begins with the bytes from next_ on, and `at` moves with
@@ -60,13 +92,15 @@ bool FieldReader::refill(const char*& at) {
     at = next_ + offset;
     used = kept;
   }
-  const std::size_t got = input_.read(block->data() + used, block->size() - 1 - used);
+  const std::size_t got = input_.read(offset_, block->data() + used, block->size() - 1 - used);
+  offset_ += got;
   end_ = block->data() + used + got;
   (*block)[used + got] = '\n';
   file_ended_ = got == 0;
   return !file_ended_;
 }
 
+// A last line without its end, or a comma at the very end, leaves nothing.
 bool FieldReader::at_end() {
   const char* at = next_;
   return next_ == end_ && !refill(at);
@@ -112,7 +146,7 @@ bool FieldReader::next_of_any_kind(Field& field) {
   // Every search stops at the line end behind the last byte read; there it goes on once more has been read.
   const char* at = next_;
   do
-    while (*at == ' ') ++at;
+    while (is_in(kBlank, *at)) ++at;
   while (at == end_ && refill(at));
 
   field.quoted = *at == '"';
@@ -129,7 +163,7 @@ bool FieldReader::next_of_any_kind(Field& field) {
   if (at - next_ > static_cast<std::ptrdiff_t>(kLongestField)) throw FieldError(kTooLong);
   if (!field.quoted) {
     const char* end = at;
-    while (end != next_ + before_text && end[-1] == ' ') --end;
+    while (end != next_ + before_text && is_in(kBlank, end[-1])) --end;
     field.text = {next_ + before_text, static_cast<std::size_t>(end - next_ - before_text)};
   }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <memory>
 #include <span>
 #include <string>
@@ -25,11 +26,12 @@ class FieldReader {
   // Throws file::Error when the file cannot be opened.
   FieldReader(file::System& system, std::string path);
 
-  // Begins a record: the fields read before are no longer needed, and their views end here.
-  void begin_record();
-  // Whether nothing is left in the file. A last line without its end, or a comma at the very end, leaves nothing.
-  bool at_end();
-  // Reads the next fields; false when the file ends before the last of them. The views hold until the next begin_record().
+  // Begins a record; false at the end of the file, where nothing is left but blank fields and at most one Ctrl-Z, the end
+  // mark of old text editors. Forgets the fields read before.
+  bool begin_record();
+  // The fields read before are no longer needed, and their views end here.
+  void forget();
+  // Reads the next fields; false when the file ends before the last of them. The views hold until forget().
   // Throws FieldError for a quoted text that is not closed on its line or a field above the limit, and file::Error for a
   // failed read.
   bool next(std::span<Field> fields);
@@ -44,13 +46,16 @@ class FieldReader {
   static_assert(sizeof(Block) > kLongestField + kLeastRead);
 
   bool refill(const char*& at);
+  bool at_end();
+  bool only_blanks_left() const;
   bool next_of_any_kind(Field& field);
 
   file::Input input_;
   std::vector<std::unique_ptr<Block>> blocks_;  // those that fields of this record may point into; the last is current
   std::unique_ptr<Block> spare_;
-  const char* next_;  // the first byte that belongs to no field yet
-  const char* end_;   // behind the last byte read
+  const char* next_;          // the first byte that belongs to no field yet
+  const char* end_;           // behind the last byte read
+  std::uint64_t offset_ = 0;  // of end_, in the file
   bool file_ended_ = false;
 };
 

@@ -15,6 +15,10 @@ inline constexpr int kLookupRecords = 400;   // of the component database, read 
 inline constexpr int kListingRecords = 500;  // of the component database, offered for a new species
 
 inline constexpr std::string_view kLineEnd = "\r\n";
+inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";  // UTF-8; passed over at the start of a file
+inline constexpr char kCtrlZ = 0x1A;  // alone in a field, what old text editors end a file with
+
+inline constexpr std::string_view kTrailerText = "For KELMAR";
 inline constexpr std::string_view kTrailer =
     "0,\"\",0,0,0,0,0,0,0,0\r\n"
     "0,0\r\n"

@@ -22,9 +22,17 @@ constexpr Kind kind_of(std::string_view path) {
 // The one counterion selectivity database whose K-sel values are not shown.
 constexpr bool is_donnica(std::string_view path) { return path.ends_with("donnica.cdb"); }
 
-// Whether the first field of the file is the isotherm model (or "NICA-Donnan") of all its species.
-constexpr bool has_model(std::string_view path) {
-  return kind_of(path) == Kind::Isotherm || kind_of(path) == Kind::NicaDonnan;
+struct KindName {
+  std::string_view name, extension;
+};
+constexpr KindName name_of(Kind kind) {
+  switch (kind) {
+    case Kind::Counterion: return {"a counterion selectivity database", "CDB"};
+    case Kind::Isotherm: return {"an isotherm database", "ISO"};
+    case Kind::NicaDonnan: return {"a NICA-Donnan database", "NIC"};
+    case Kind::Blm: return {"a BLM parameter database", "BLI"};
+    default: return {"a complexation / sorption database", "MDB"};
+  }
 }
 
 }  // namespace db

@@ -1,6 +1,7 @@
 #include "db/number.h"
 
 #include <array>
+#include <system_error>
 
 namespace db {
 namespace {

@@ -1,47 +1,61 @@
 #include "db/rewrite.h"
 
-#include "file/replacement.h"
+#include <algorithm>
+
+#include "db/writer.h"
 
 namespace db {
 
-std::string rewritten_content(file::System& system, const Rewrite& order) {
-  std::string out;
-  file::Status status;
+Rewrite::Rewrite(file::System& system, const Database& database, const std::string& compdb, const NewLeading& leading)
+    : replacement_(system, kTemporaryFile, database.path, spare_components(compdb)),
+      reader_(system, database.path),
+      path_(database.path) {
+  if (database.misplaced && kind_of(path_) != database.kind)
+    throw file::Refusal(path_ +
+                        " is another database of another kind: the one that was open could not be copied there. Open " +
+                        "the one or the other with the File menu.");
   constexpr std::size_t kGrowth = 4096;  // room for one more species
-  if (!system.status(order.database, file::Follow::Links, status) && status.size < file::kLargestDatabase)
-    out.reserve(static_cast<std::size_t>(status.size) + kGrowth);
-  SpeciesReader reader(system, order.database);
-  if (order.model) {
-    const std::string read = reader.read_model();
-    append_text_line(out, order.model->empty() ? read : *order.model);
-  } else if (order.critical_f) {
-    BlmFields fields = reader.read_blm();
-    fields.critical_f = *order.critical_f;
-    append_blm(out, fields);
-  }
-
-  if (order.first) order.first(out);
-  int species = order.first ? 1 : 0;
-  while (const Record* record = reader.next()) {
-    const Decision decision = order.decide(*record, out);
-    if (decision == Decision::Keep) append_record(out, *record);
-    if (decision != Decision::Drop) ++species;
-    if (out.size() > file::kLargestDatabase)
-      throw file::Refusal(order.database + " is larger than 64 MiB. The editor leaves it as it is.");
-  }
-  const std::string limit = "a species database holds at most " + std::to_string(kMaxSpecies) + " species. ";
-  if (reader.end() == SpeciesReader::End::Limit)
-    throw file::Refusal(order.database + " goes on after its first " + std::to_string(kMaxRecords) + " records; " + limit +
-                        "Nothing was changed. Divide the database with a text editor.");
-  if (species > kMaxSpecies && order.first)
-    throw file::Refusal(order.database + " is full: " + limit + "Delete one first, or add this one to another database.");
-  if (reader.end() == SpeciesReader::End::Marker) out += kTrailer;
-  return out;
+  out_.reserve(std::min(replacement_.old_size(), file::kLargestDatabase) + kGrowth);
+  LeadingFields fields = reader_.read_leading(leading_of(database.kind));
+  if (fields.model && !leading.model.empty()) fields.model = leading.model;
+  if (fields.blm) fields.blm->critical_f = leading.critical_f;
+  append_leading(out_, fields);
 }
 
-std::string rewrite(file::System& system, const Rewrite& order) {
-  file::Replacement replacement(system, kTemporaryFile, order.database);
-  return replacement.commit(rewritten_content(system, order));
+bool Rewrite::keep_until(std::optional<std::string_view> name) {
+  while (const Record* record = reader_.next()) {
+    ++old_species_;
+    if (name && record->name() == *name) return true;
+    append_record(out_, *record);
+    count();
+  }
+  return false;
+}
+
+void Rewrite::put(std::string_view record) {
+  out_ += record;
+  count();
+}
+
+void Rewrite::count() {
+  ++species_;
+  if (out_.size() > file::kLargestDatabase)
+    throw file::Refusal(path_ + " is larger than 64 MiB. The editor leaves it as it is.");
+}
+
+const std::string& Rewrite::content() {
+  const std::string limit = "a species database holds at most " + std::to_string(kMaxSpecies) + " species. ";
+  if (reader_.end() == SpeciesReader::End::Limit)
+    throw file::Refusal(path_ + " goes on after its first " + std::to_string(kMaxRecords) + " records; " + limit +
+                        "Nothing was changed. Divide the database with a text editor.");
+  if (species_ > kMaxSpecies && species_ > old_species_)
+    throw file::Refusal(path_ + " is full: " + limit + "Delete one first, or add this one to another database.");
+  if (reader_.hides_more())
+    reader_.refuse(
+        "an empty line or field ends the list here, and what stands after it would be lost. Nothing was changed. Remove the "
+        "empty line with a text editor");
+  if (reader_.end() != SpeciesReader::End::File) out_ += kTrailer;
+  return out_;
 }
 
 }  // namespace db

@@ -1,36 +1,54 @@
-// Rewrites a whole species database: every record is read, kept, replaced or dropped, and the result takes the place of
-// the file in one step (file/replacement.h).
+// Rewrites a whole species database: its records are read one after another, each is kept or another is put in its place,
+// and the result takes the place of the file in one step (file/replacement.h).
 #pragma once
 
-#include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <utility>
 
-#include "db/writer.h"
+#include "db/species_reader.h"
+#include "file/replacement.h"
 
 namespace db {
 
+// The component database is never written.
+inline file::Spared spare_components(std::string compdb) { return {std::move(compdb), "the component database"}; }
+
 inline constexpr const char* kTemporaryFile = "dbnamep.mdb";  // in the working folder, during a rewrite only
 
-enum class Decision { Keep, Replace, Drop };
-
-struct Rewrite {
-  std::string database;
-  // Leading fields: a model to write in place of the one read, an empty one to write the one read; or a critical f value
-  // to write in place of the one read; or none.
-  std::optional<std::string> model;
-  std::optional<double> critical_f;
-  // Writes a record ahead of all old ones, if set.
-  std::function<void(std::string& out)> first;
-  // Says what becomes of a record; for Replace it has written the new one to `out`.
-  std::function<Decision(const Record& record, std::string& out)> decide;
+// What is written in place of the leading fields that are read.
+struct NewLeading {
+  std::string_view model;  // empty: the one in the file stays
+  double critical_f = 0;
 };
 
-// What the database becomes; nothing is written yet. Throws as rewrite() does.
-std::string rewritten_content(file::System& system, const Rewrite& order);
+class Rewrite {
+ public:
+  // Begins with the leading fields of the kind held, whatever the path says. Throws file::Refusal or file::Error when the
+  // database cannot be replaced or read.
+  Rewrite(file::System& system, const Database& database, const std::string& compdb, const NewLeading& leading);
 
-// Throws file::Refusal when the database holds more than the editor can write back whole, and file::Error when it
-// cannot be read or replaced. The file then is as it was. Returns what the user has to be told of a success, or nothing.
-[[nodiscard]] std::string rewrite(file::System& system, const Rewrite& order);
+  // Copies old records as they are up to the next one of this name, which is left out; false at the end of the list, and
+  // without a name. Throws file::Error.
+  bool keep_until(std::optional<std::string_view> name);
+  // Writes whole lines of another record here.
+  void put(std::string_view record);
+
+  // After the last record: the new content. Throws file::Refusal when something would be lost or could not be read back.
+  const std::string& content();
+  // Puts the content in the place of the file. Throws as content(), and file::Error when the file cannot be replaced; it
+  // then is as it was. Returns what the user has to be told of a success, or nothing.
+  [[nodiscard]] std::string commit() { return replacement_.commit(content()); }
+
+ private:
+  void count();
+
+  file::Replacement replacement_;  // first: nobody else may replace the file once it is read
+  SpeciesReader reader_;
+  std::string path_;
+  std::string out_;
+  int old_species_ = 0, species_ = 0;
+};
 
 }  // namespace db

@@ -2,27 +2,24 @@
 
 #include <algorithm>
 #include <cmath>
-
-#include "db/kind.h"
+#include <string_view>
 
 namespace db {
 
-void SpeciesReader::fail(const std::string& reason) const {
+std::string SpeciesReader::located_text(const std::string& reason) const {
   std::string where = fields_.path();
   if (records_ == 0) {
-    where += ", before the first record: ";
+    where += ", before the first record";
   } else {
     where += ", record " + std::to_string(records_);
-    if (!record_.head[kName].text.empty()) where.append(" (").append(record_.head[kName].text).append(")");
-    where += ": ";
+    if (end_ != End::Empty && !record_.name().empty()) where.append(" (").append(record_.name()).append(")");
   }
-  throw file::Error(where + reason + ".");
+  return where + ": " + reason + ".";
 }
 
 // Whatever is wrong with a field is told with file and record.
 template <typename Read>
 auto SpeciesReader::located(Read read) {
-  fields_.begin_record();
   try {
     return read();
   } catch (const FieldError& error) {
@@ -34,47 +31,53 @@ void SpeciesReader::require(std::span<Field> fields) {
   if (!fields_.next(fields)) throw FieldError(records_ == 0 ? "the file ends too early" : "the file ends inside the record");
 }
 
-std::string SpeciesReader::read_model() {
-  return located([this] {
-    Field model;
-    require(std::span(&model, 1));
-    return std::string(model.text);
-  });
-}
-
-BlmFields SpeciesReader::read_blm() {
-  return located([this] {
+LeadingFields SpeciesReader::read_leading(Leading leading) {
+  return located([&] {
+    LeadingFields read;
     std::array<Field, 3> fields;
-    require(fields);
-    return BlmFields{std::string(fields[0].text), std::string(fields[1].text), number(fields[2], "the critical f value")};
+    if (leading.model) {
+      require(std::span(fields).first(1));
+      read.model = fields[0].text;
+    }
+    if (leading.blm) {
+      require(fields);
+      const auto critical_f = fields[2].number();
+      if (!critical_f) refuse("the critical f value is \"" + std::string(fields[2].text) + "\", not a number. Mend the file with a text editor");
+      read.blm = {std::string(fields[0].text), std::string(fields[1].text), *critical_f};
+    }
+    return read;
   });
-}
-
-std::optional<std::string> SpeciesReader::skip_leading_fields(bool blifile) {
-  if (has_model(fields_.path())) return read_model();
-  if (blifile) read_blm();
-  return std::nullopt;
 }
 
 const Record* SpeciesReader::next() {
+  if (end_ == End::None && !fields_.begin_record()) end_ = End::File;
+  if (end_ == End::None && records_ == kMaxRecords) end_ = End::Limit;
   if (end_ != End::None) return nullptr;
-  if (records_ == kMaxRecords) {
-    end_ = fields_.at_end() ? End::File : End::Limit;
-    return nullptr;
-  }
-  if (fields_.at_end()) {
-    end_ = End::File;
-    return nullptr;
-  }
   ++records_;
   record_.head[kName] = {};
   return located([this] { return read_record(); });
 }
 
+bool SpeciesReader::hides_more() {
+  const auto is_more = [](const Field& field) {
+    return !field.text.empty() && field.number() != 0. && field.text != kTrailerText &&
+           field.text != std::string_view(&kCtrlZ, 1);
+  };
+  if (end_ != End::Empty) return false;
+  if (std::any_of(record_.head.begin(), record_.head.end(), is_more)) return true;
+  try {
+    for (Field field; fields_.next(field); fields_.forget())
+      if (is_more(field)) return true;
+  } catch (const FieldError&) {
+    return true;
+  }
+  return false;
+}
+
 const Record* SpeciesReader::read_record() {
   require(record_.head);
   if (record_.head[kId].is_zero()) {
-    end_ = End::Marker;
+    end_ = record_.head[kId].text.empty() ? End::Empty : End::Marker;
     return nullptr;
   }
   const double components = number(record_.head[kComponents], "the number of components");

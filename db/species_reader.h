@@ -3,9 +3,12 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <span>
 #include <string>
+#include <string_view>
 
+#include "db/database.h"
 #include "db/field_reader.h"
 #include "db/format.h"
 
@@ -37,6 +40,8 @@ struct Record {
   bool has_mb = false;
   Field mb_count;  // the number of M.B. pairs as it stands in the file
   Pairs mb_pairs;
+
+  std::string_view name() const { return head[kName].text; }
 };
 
 struct BlmFields {
@@ -44,31 +49,37 @@ struct BlmFields {
   double critical_f = 0;
 };
 
+struct LeadingFields {
+  std::optional<std::string> model;
+  std::optional<BlmFields> blm;
+};
+
 class SpeciesReader {
  public:
-  // How a list ended: at its marker, at the end of the file, or after kMaxRecords with more to come.
-  enum class End { None, Marker, File, Limit };
+  // How a list ended: at its marker (the ID number 0), at an empty ID number, which counts as 0, at the end of the file, or
+  // after kMaxRecords with more to come.
+  enum class End { None, Marker, Empty, File, Limit };
 
   // Throws file::Error, like every function here: what is wrong, in which file and record.
   SpeciesReader(file::System& system, const std::string& path) : fields_(system, path) {}
 
-  // The leading field of an isotherm or NICA-Donnan database.
-  std::string read_model();
-  // The three leading fields of a BLM parameter database.
-  BlmFields read_blm();
-  // Whichever of these the file has: by its path an isotherm or NICA-Donnan database, whose model is returned, else a BLM
-  // parameter database when `blifile` is set.
-  std::optional<std::string> skip_leading_fields(bool blifile);
+  // Reads the fields before the first record. A critical f value that is text is refused.
+  LeadingFields read_leading(Leading leading);
 
   // The next species, valid until the next call; null at the end of the list. A record cut short by the end of the file,
   // more than kMaxPairs pairs, or text in place of a number of pairs is an error.
   const Record* next();
   End end() const { return end_; }
+  // At the end of the list: whether an empty ID number has ended it and more stands behind that than an end marker and its
+  // trailer. Reads on to the end of the file.
+  bool hides_more();
 
-  // Throws file::Error about the record that was read last.
-  [[noreturn]] void fail(const std::string& reason) const;
+  // Throws file::Error, or file::Refusal, about the record that was read last.
+  [[noreturn]] void fail(const std::string& reason) const { throw file::Error(located_text(reason)); }
+  [[noreturn]] void refuse(const std::string& reason) const { throw file::Refusal(located_text(reason)); }
 
  private:
+  std::string located_text(const std::string& reason) const;
   template <typename Read>
   auto located(Read read);
   void require(std::span<Field> fields);

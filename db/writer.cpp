@@ -1,5 +1,7 @@
 #include "db/writer.h"
 
+#include <span>
+
 namespace db {
 
 void LineWriter::separate() {
@@ -17,6 +19,7 @@ LineWriter& LineWriter::text(std::string_view value) {
   separate();
   // Between quotes a quote of its own would end it; bare, as it must have been read, it reads the same again.
   const std::string_view quote = value.find('"') == std::string_view::npos ? "\"" : "";
+  if (quote.empty() && out_.empty() && value.starts_with(kByteOrderMark)) out_ += ' ';  // or it would be passed over
   out_.append(quote).append(value).append(quote);
   return *this;
 }
@@ -76,11 +79,11 @@ void append_record(std::string& out, const Record& record) {
   append_line(out, record.mb_pairs.fields());
 }
 
-void append_text_line(std::string& out, std::string_view text) { LineWriter(out).text(text).end(); }
-
-void append_blm(std::string& out, const BlmFields& fields) {
-  append_text_line(out, fields.description);
-  LineWriter(out).text(fields.label).number(fields.critical_f).end();
+void append_leading(std::string& out, const LeadingFields& fields) {
+  if (fields.model) LineWriter(out).text(*fields.model).end();
+  if (!fields.blm) return;
+  LineWriter(out).text(fields.blm->description).end();
+  LineWriter(out).text(fields.blm->label).number(fields.blm->critical_f).end();
 }
 
 }  // namespace db

@@ -29,9 +29,7 @@ class LineWriter {
 // A record unchanged. Reading the result gives the same values.
 void append_record(std::string& out, const Record& record);
 
-// "NICA-Donnan" on a line of its own, and the like.
-void append_text_line(std::string& out, std::string_view text);
-
-void append_blm(std::string& out, const BlmFields& fields);
+// The fields before the first record, each group on lines of its own.
+void append_leading(std::string& out, const LeadingFields& fields);
 
 }  // namespace db

@@ -1,15 +1,19 @@
 #include "edit/display.h"
 
 #include <algorithm>
+#include <string_view>
+#include <utility>
 
 namespace edit {
 namespace {
 
 using db::numtext;
 
+bool is_empty(const db::Field& field) { return field.type() == db::FieldType::Empty; }
+
 class Display {
  public:
-  Display(const db::SpeciesReader& reader, const db::Record& record, const Database& database)
+  Display(const db::SpeciesReader& reader, const db::Record& record, const db::Database& database)
       : reader_(reader),
         record_(record),
         database_(database) {}
@@ -38,7 +42,7 @@ class Display {
     } else if (range == IdRange::Nica) {
       shown_.m_ref = database_.isomodel == "NICA";
       shown_.lk2_caption = id < 13299999 ? "m" : id < 13399999 ? "b" : "n";
-    } else if (database_.blifile) {
+    } else if (database_.blifile()) {
       shown_.ksel = number(db::kLk2, "toxicity flag") == 0 ? " No" : " Yes";
     }
     if (!shown_.lk2_caption.empty()) shown_.lk2 = " " + numtext(number(db::kLk2, "second constant"));
@@ -47,7 +51,7 @@ class Display {
   void show_common() {
     shown_.logk = " " + numtext(number(db::kLogK, "log K"));
     shown_.dhr = " " + numtext(number(db::kDhr, "dHr"));
-    if (database_.isomodel == "NICA" || database_.cdbfile) shown_.ksel = " " + numtext(number(db::kKsel, "K-sel"));
+    if (database_.isomodel == "NICA" || database_.cdbfile()) shown_.ksel = " " + numtext(number(db::kKsel, "K-sel"));
     shown_.name = name();
     shown_.id = numtext(number(db::kId, "ID number"));
     shown_.charge = numtext(number(db::kCharge, "charge"));
@@ -61,35 +65,42 @@ class Display {
       shown_.notice = std::string(name()) + " has " + std::to_string(pairs.count()) +
                       " components: the window holds eight, and the others stay in the database unseen. "
                       "Change this species with a text editor.";
-    std::vector<double> compno;
-    for (int i = 0; i < std::min(pairs.count(), db::kShownPairs); ++i)
-      compno.push_back(number(pairs.compno(i), "component number"));
+    const int rows = std::min(pairs.count(), db::kShownPairs);
+    std::vector<double> compno;  // of the rows that have one
+    for (int i = 0; i < rows; ++i)
+      if (!is_empty(pairs.compno(i))) compno.push_back(number(pairs.compno(i), "component number"));
     const auto found = compno.empty() ? db::ComponentNames() : db::component_names(system, compdb, compno);
     if (!found.failure.empty())
       shown_.notice = "The components are shown by number: " + found.failure +
                       " Choose another component database, or mend this one." +
                       (shown_.notice.empty() ? "" : " " + shown_.notice);
-    for (std::size_t i = 0; i < compno.size(); ++i) {
+    for (std::size_t i = 0, found_at = 0; i < static_cast<std::size_t>(rows); ++i) {
       Row row;
       row.stoich = numtext(number(pairs.stoich(static_cast<int>(i)), "stoichiometry"));
-      row.comp = found.names[i] ? *found.names[i] : "#" + db::format_number(compno[i]);
-      row.mbstoich = mb_text(compno[i]);
+      const db::Field& field = pairs.compno(static_cast<int>(i));
+      if (is_empty(field)) {
+        row.comp = "#";
+      } else {
+        row.comp = found.names[found_at].value_or("#" + db::format_number(compno[found_at]));
+        ++found_at;
+      }
+      if (database_.mbfields) row.mbstoich = mb_text(field);
       shown_.rows.push_back(std::move(row));
     }
   }
 
   // Of several M.B. stoichiometries of a component the last counts.
-  std::string mb_text(double compno) const {
+  std::string mb_text(const db::Field& compno) const {
     const db::Pairs& pairs = record_.mb_pairs;
     for (int i = pairs.count() - 1; i >= 0; --i)
-      if (pairs.compno(i).number() == compno)
-        return pairs.stoich(i).type() == db::FieldType::Empty ? "" : numtext(number(pairs.stoich(i), "M.B. stoichiometry"));
+      if (pairs.compno(i).number() == compno.number())
+        return is_empty(pairs.stoich(i)) ? "" : numtext(number(pairs.stoich(i), "M.B. stoichiometry"));
     return "";
   }
 
   const db::SpeciesReader& reader_;
   const db::Record& record_;
-  const Database& database_;
+  const db::Database& database_;
   Shown shown_;
 };
 
@@ -101,12 +112,12 @@ IdRange range_of(double id) {
   return IdRange::None;
 }
 
-std::optional<Shown> show_species(file::System& system, const std::string& dbname, const std::string& compdb,
-                                  std::string_view name, Database& database) {
-  db::SpeciesReader reader(system, dbname);
-  if (const auto model = reader.skip_leading_fields(database.blifile)) database.isomodel = *model;
+std::optional<Shown> show_species(file::System& system, db::Database& open, const std::string& compdb,
+                                  std::string_view name) {
+  db::SpeciesReader reader(system, open.path);
+  if (const auto read = reader.read_leading(db::leading_by_name(open)); read.model) open.isomodel = *read.model;
   while (const db::Record* record = reader.next())
-    if (record->head[db::kName].text == name) return Display(reader, *record, database).shown(system, compdb);
+    if (record->name() == name) return Display(reader, *record, open).shown(system, compdb);
   return std::nullopt;
 }
 

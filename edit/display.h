@@ -3,20 +3,13 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "db/components.h"
 #include "db/species_reader.h"
 
 namespace edit {
-
-// What decides which values a species shows, beside its record.
-struct Database {
-  std::string isomodel;   // isotherm model, or "NICA-Donnan", or none
-  bool blifile = false;   // BLM parameter database
-  bool cdbfile = false;   // counterion selectivity database
-  bool mbfields = false;  // M.B. stoichiometries are in use
-};
 
 // By its ID number, the meaning of a species' field 6. All bounds are strict: above the first, below the second number.
 enum class IdRange { None, Lk2, Nica };
@@ -37,11 +30,11 @@ struct Shown {
   std::string notice;       // what the user has to be told beside, or nothing
 };
 
-// Finds the species `name` in the database and looks its components up in `compdb`; nothing when there is none of that
-// name. For an isotherm or NICA-Donnan database the model in its leading field becomes `database.isomodel`, also when
-// the species is not found. Throws file::Error when the database cannot be read to the species, or the species holds
-// text where a number belongs.
-std::optional<Shown> show_species(file::System& system, const std::string& dbname, const std::string& compdb,
-                                  std::string_view name, Database& database);
+// Finds the species `name` in the open database and looks its components up in `compdb`; nothing when there is none of that
+// name. For an isotherm or NICA-Donnan database, told by its path, the model in its leading field becomes `open.isomodel`,
+// whatever comes after. Throws file::Error when the database cannot be read to the species, or the species holds text where
+// a number belongs.
+std::optional<Shown> show_species(file::System& system, db::Database& open, const std::string& compdb,
+                                  std::string_view name);
 
 }  // namespace edit

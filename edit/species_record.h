@@ -2,7 +2,10 @@
 #pragma once
 
 #include <array>
+#include <optional>
+#include <span>
 #include <string>
+#include <vector>
 
 #include "edit/display.h"
 
@@ -13,18 +16,19 @@ struct Entry {
   std::string id, name, logk, dhr, ksel, charge, nocomp;
   std::optional<std::string> lk2;  // nothing while its box is hidden
   std::array<Row, db::kShownPairs> rows;
+
+  // The rows that belong to the species, by its number of components. Throws file::Refusal when the window has fewer.
+  std::span<const Row> components() const;
 };
 
-// The component numbers that a record gets for these names: the fixed number of a surface site, else that of the
-// component database, else, for "#9999", the number behind the sign. Nothing (an empty field) for any other name.
-// The component database is read once, and only when a name needs it. Throws file::Error.
-std::vector<std::optional<double>> numgenerator3(file::System& system, const std::string& compdb,
-                                                 std::span<const std::string> names);
+// The component number of each row: the fixed number of a surface site, else that of the component database, else, for
+// "#9999", the number after the sign. Nothing (an empty field) for any other name. The component database is read once, and
+// only when a name needs it. Throws file::Refusal when it cannot be read.
+std::vector<std::optional<double>> numbers_of(std::span<const Row> rows, file::System& system, const std::string& compdb);
 
-// Appends the two to four lines of the species' record. Texts that are no number count as 0. Throws file::Refusal for
-// what no reader would read back (more components than the window has rows, a quote in the name, an ID number of 0) and
-// when the component database cannot be read.
-void append_species(std::string& out, const Entry& entry, const Database& database, file::System& system,
-                    const std::string& compdb);
+// The two to four lines of the record; `numbers` are those of its components. Texts that are no number count as 0. Throws
+// file::Refusal for what no reader would read back (more components than the window has rows, a quote in the name, an ID
+// number of 0) and for numbers that a file cannot hold.
+std::string species_record(const Entry& entry, const db::Database& open, std::span<const std::optional<double>> numbers);
 
 }  // namespace edit

@@ -79,9 +79,9 @@ double FreeId::result() const {
   return rest_ + first_unused(rest_used_);
 }
 
-double first_free_id(file::System& system, const std::string& dbname, bool blifile, FreeId candidates) {
-  db::SpeciesReader reader(system, dbname);
-  reader.skip_leading_fields(blifile);
+double first_free_id(file::System& system, const db::Database& open, FreeId candidates) {
+  db::SpeciesReader reader(system, open.path);
+  reader.read_leading(db::leading_by_name(open));
   while (const db::Record* record = reader.next())
     if (const auto id = record->head[db::kId].number()) candidates.use(*id);
   return candidates.result();

@@ -42,8 +42,7 @@ class FreeId {
   std::bitset<db::kMaxRecords + 1> rest_used_;  // one more than can be in use: one is always free
 };
 
-// The first candidate that no species of the database has; reads it in one pass. `blifile` as in Database. Throws
-// file::Error.
-double first_free_id(file::System& system, const std::string& dbname, bool blifile, FreeId candidates);
+// The first candidate that no species of the open database has; reads it in one pass. Throws file::Error.
+double first_free_id(file::System& system, const db::Database& open, FreeId candidates);
 
 }  // namespace edit

@@ -1,10 +1,29 @@
 #include "edit/values.h"
 
+#include <algorithm>
 #include <charconv>
+#include <climits>
+#include <system_error>
 
 #include "file/error.h"
 
 namespace edit {
+namespace {
+
+// The power of ten of the first digit that is not 0: 2 for 123, -3 for .00123, 7 for 1.5E7.
+long leading_power(std::string_view number) {
+  const auto e = std::min(number.find_first_of("eE"), number.size());
+  const auto point = std::min(number.find('.'), e), first = number.find_first_of("123456789");
+  const long power = static_cast<long>(point) - static_cast<long>(first) - (first < point ? 1 : 0);
+  long exponent = 0;
+  if (e == number.size()) return power;
+  number.remove_prefix(e + (number.substr(e + 1).starts_with('+') ? 2 : 1));
+  if (std::from_chars(number.data(), number.data() + number.size(), exponent).ec != std::errc())
+    exponent = number.front() == '-' ? LONG_MIN / 2 : LONG_MAX / 2;
+  return power + exponent;
+}
+
+}  // namespace
 
 double number_rule(std::string_view text) {
   std::string digits;
@@ -19,11 +38,8 @@ double number_rule(std::string_view text) {
   double value = 0;
   const auto [stop, error] = std::from_chars(begin, end, value);
   if (error == std::errc::result_out_of_range) {
-    // Too small for a double is as good as 0; the two cases differ in the sign of the exponent.
-    const std::string_view number(begin, static_cast<std::size_t>(stop - begin));
-    if (number.find("e-") == number.npos && number.find("E-") == number.npos)
-      throw file::Refusal("\"" + std::string(text) + "\" is too large a number. Correct it before saving.");
-    return 0;
+    if (leading_power(std::string_view(begin, stop)) < 0) return 0;  // too small for a double is as good as 0
+    throw file::Refusal("\"" + std::string(text) + "\" is too large a number. Correct it before saving.");
   }
   return negative ? -value : value;
 }

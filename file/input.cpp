@@ -1,5 +1,12 @@
 #include "file/input.h"
 
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <system_error>
+#include <utility>
+
 namespace file {
 
 std::string failure(std::string_view what, const std::string& path, std::error_code error) {
@@ -20,9 +27,9 @@ Input::Input(System& system, std::string path) : system_(system), path_(std::mov
 // Nothing was written: a failure to close loses nothing.
 Input::~Input() { system_.close(handle_); }
 
-std::size_t Input::read(char* bytes, std::size_t size) {
+std::size_t Input::read(std::uint64_t offset, char* bytes, std::size_t size) const {
   std::size_t got = 0;
-  if (const auto error = uninterrupted([&] { return system_.read(handle_, bytes, size, got); }))
+  if (const auto error = uninterrupted([&] { return system_.read(handle_, offset, bytes, size, got); }))
     throw Error(failure("read", path_, error));
   return got;
 }
@@ -33,7 +40,7 @@ std::string read_whole(System& system, const std::string& path, std::size_t limi
   std::string content;
   for (std::size_t size = 0;;) {
     content.resize(size + kBlock);
-    const std::size_t got = input.read(content.data() + size, kBlock);
+    const std::size_t got = input.read(size, content.data() + size, kBlock);
     size += got;
     content.resize(size);
     if (got == 0) return content;

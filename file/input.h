@@ -1,5 +1,11 @@
-// Reading a file from its beginning, a block at a time.
+// Reading a file, a block at a time.
 #pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <system_error>
 
 #include "file/error.h"
 #include "file/system.h"
@@ -18,8 +24,8 @@ class Input {
   Input(const Input&) = delete;
   Input& operator=(const Input&) = delete;
 
-  // Reads at most `size` bytes, and none only at the end of the file. Throws Error.
-  std::size_t read(char* bytes, std::size_t size);
+  // Reads at most `size` bytes from `offset` on, and none only at the end of the file. Throws Error.
+  std::size_t read(std::uint64_t offset, char* bytes, std::size_t size) const;
   const std::string& path() const { return path_; }
 
  private:

@@ -6,7 +6,11 @@
 
 #include <cerrno>
 #include <climits>
+#include <cstdint>
 #include <cstdlib>
+#include <string>
+#include <string_view>
+#include <system_error>
 
 #include "file/system.h"
 
@@ -55,8 +59,8 @@ class PosixSystem final : public System {
 
   std::error_code lock(Handle handle) override { return checked(::flock(descriptor(handle), LOCK_EX | LOCK_NB)); }
 
-  std::error_code read(Handle handle, char* bytes, std::size_t size, std::size_t& got) override {
-    const ssize_t n = ::read(descriptor(handle), bytes, size);
+  std::error_code read(Handle handle, std::uint64_t offset, char* bytes, std::size_t size, std::size_t& got) override {
+    const ssize_t n = ::pread(descriptor(handle), bytes, size, static_cast<off_t>(offset));
     if (n < 0) return last_error();
     got = static_cast<std::size_t>(n);
     return {};

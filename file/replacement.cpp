@@ -1,5 +1,9 @@
 #include "file/replacement.h"
 
+#include <cstdint>
+#include <system_error>
+#include <utility>
+
 #include "file/input.h"
 
 namespace file {
@@ -11,14 +15,24 @@ Refusal in_use(const std::string& path) {
 
 }  // namespace
 
+void refuse_spared(System& system, const std::string& target, const Spared& spared) {
+  Status ours, theirs;
+  for (const auto& [path, status] : {std::pair(&target, &ours), std::pair(&spared.path, &theirs)})
+    if (const auto error = system.status(*path, Follow::Links, *status)) throw Error(failure("look at", *path, error));
+  if (ours.same_file(theirs))
+    throw Refusal(target + " is " + spared.what + ", which is never changed. Choose another file for one of the two.");
+}
+
 void Replacement::require(std::error_code error, std::string_view what, const std::string& path) {
   if (error) throw Error(failure(what, path, error));
 }
 
-Replacement::Replacement(System& system, std::string temporary, const std::string& target)
+Replacement::Replacement(System& system, std::string temporary, const std::string& target, Spared spared)
     : system_(system),
+      spared_(std::move(spared)),
       kept_(temporary + ".keep"),
       target_(target) {
+  refuse_spared(system_, target, spared_);
   // Without the links: renaming over a link would replace the link and leave the database itself as it was.
   require(system_.status(target, Follow::Links, target_status_), "look at", target);
   Status link;
@@ -57,6 +71,7 @@ Replacement::~Replacement() {
 // Creates the file, removing a plain leftover of that name first, and locks it. The file is never opened through a link
 // and never emptied: what lies under the name may be somebody's only copy under another name.
 void Replacement::claim(Claim& claim, std::string path) {
+  refuse_spared(system_, path, spared_);
   Status present;
   require(system_.status(path, Follow::Nothing, present), "look at", path);
   if (present.type == Type::Plain) {
@@ -144,13 +159,11 @@ void Replacement::write_all(Handle handle, std::uint64_t offset, std::string_vie
 
 void Replacement::verify(Handle handle, std::string_view content, const std::string& path) {
   char block[64 * 1024];
-  for (;;) {
-    std::size_t got = 0;
-    require(uninterrupted([&] { return system_.read(handle, block, sizeof block, got); }), "read back", path);
-    if (content.substr(0, got) != std::string_view(block, got) || (got == 0 && !content.empty()))
+  for (std::size_t offset = 0, got = 0;; offset += got) {
+    require(uninterrupted([&] { return system_.read(handle, offset, block, sizeof block, got); }), "read back", path);
+    if (content.substr(offset, got) != std::string_view(block, got) || (got == 0 && offset < content.size()))
       throw Error(path + " does not hold what was written to it. The disk may be failing.");
     if (got == 0) return;
-    content.remove_prefix(got);
   }
 }
 
@@ -240,12 +253,12 @@ void Replacement::restore(Handle handle, std::string_view old) {
   require(system_.flush(handle), "write to the disk", target_);
 }
 
-std::string copy_over(System& system, const std::string& from, const std::string& to) {
+std::string copy_over(System& system, const std::string& from, const std::string& to, const Spared& spared) {
   Status source, target;
   if (!system.status(from, Follow::Links, source) && !system.status(to, Follow::Links, target) && source.same_file(target))
     return "";
   const std::string content = read_whole(system, from, kLargestDatabase);
-  return Replacement(system, to + Replacement::kBeside, to).commit(content);
+  return Replacement(system, to + Replacement::kBeside, to, spared).commit(content);
 }
 
 }  // namespace file

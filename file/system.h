@@ -1,6 +1,6 @@
 // What the program asks of the operating system's files: one method a call, so that a test can make each one fail.
 // Paths are bytes as the system takes them. Every method reports its failure as an error code and throws nothing; what a
-// failure means is the caller's business (see text_file.h for whole files and replacement.h for replacing one).
+// failure means is the caller's business (see input.h for reading and replacement.h for replacing one).
 // Rejected: std::filesystem and streams. They cannot flush to the disk, create a file exclusively, lock it, or say that
 // a write came back short.
 #pragma once
@@ -48,8 +48,8 @@ class System {
   // Takes the file for this process alone until its handle is closed; errc::operation_would_block when another has it.
   virtual std::error_code lock(Handle handle) = 0;
 
-  // Reads at most `size` bytes; `got` is 0 only at the end of the file.
-  virtual std::error_code read(Handle handle, char* bytes, std::size_t size, std::size_t& got) = 0;
+  // Reads at most `size` bytes from `offset` on; `got` is 0 only at the end of the file.
+  virtual std::error_code read(Handle handle, std::uint64_t offset, char* bytes, std::size_t size, std::size_t& got) = 0;
   // Writes `bytes` at `offset`, perhaps only the first `put` of them.
   virtual std::error_code write(Handle handle, std::uint64_t offset, std::string_view bytes, std::size_t& put) = 0;
   virtual std::error_code truncate(Handle handle, std::uint64_t size) = 0;

@@ -1,4 +1,7 @@
 // Any bytes as a component database: every lookup ends, with a result or an error.
+#include <cstddef>
+#include <string>
+
 #include "bytes_system.h"
 #include "db/components.h"
 #include "edit/choices.h"

@@ -1,4 +1,8 @@
 // Any bytes as a species database of any kind: reading ends, and what is read and written unchanged reads the same again.
+#include <cstddef>
+#include <string>
+#include <string_view>
+
 #include "bytes_system.h"
 #include "db/writer.h"
 
@@ -11,8 +15,7 @@ std::string copy(std::string_view bytes, std::size_t piece, bool model, bool blm
   whole = false;
   try {
     db::SpeciesReader reader(system, "x.mdb");
-    if (model) db::append_text_line(out, reader.read_model());
-    if (blm) db::append_blm(out, reader.read_blm());
+    db::append_leading(out, reader.read_leading({.model = model, .blm = blm}));
     while (const db::Record* record = reader.next()) db::append_record(out, *record);
     whole = true;
   } catch (const file::Error&) {

@@ -1,6 +1,10 @@
 // A whole session on any bytes: load, show, change, save. The first byte chooses the kind of database, the second what is
 // done; up to the first byte FF the rest is the species database, after it the component database. Whatever happens, the
 // database is the old one or a whole new one, no file stays open, and no temporary file is left.
+#include <cstddef>
+#include <string>
+#include <string_view>
+
 #include "app/frmMaindb.h"
 #include "bytes_system.h"
 #include "db/rewrite.h"

@@ -1,6 +1,10 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <vector>
 
 #include "edit/choices.h"
 #include "edit/species_record.h"
@@ -21,31 +25,32 @@ TEST(Display, TellsIdRangesWithStrictBounds) {
   for (const auto& [id, range] : rows) EXPECT_EQ(edit::range_of(id), range) << id;
 }
 
-edit::Shown shown(const std::string& record, edit::Database database, const std::string& path = "x.mdb") {
+edit::Shown shown(const std::string& record, db::Database open) {
   MemorySystem system;
   system.add("comp.mdb", support::kComponents);
-  system.add(path, record);
-  return edit::show_species(system, path, "comp.mdb", "S", database).value();
+  open.path = "x.mdb";
+  system.add(open.path, record);
+  return edit::show_species(system, open, "comp.mdb", "S").value();
 }
 
 TEST(Display, ShowsValuesByKindAndIdNumber) {
   const auto with_id = [](const std::string& id) { return id + ",S,-0.25,2,1.5,-.5,0,0,0,0,0,0\n"; };
   const struct {
     const char* id;
-    edit::Database database;
+    db::Database open;
     const char *caption, *lk2, *ksel;
     bool m_ref;
   } rows[] = {
       {"5", {}, "", "-", "-", false},
-      {"5", {"", false, true, false}, "", "-", "  1.5", false},
-      {"5", {"", true, false, false}, "", "-", " Yes", false},
-      {"11000001", {"", true, false, false}, "Lk2", " -.5", "-", false},
-      {"13299998", {"NICA", false, false, false}, "m", " -.5", "  1.5", true},
-      {"13299999", {"NICA-Donnan", false, false, false}, "b", " -.5", "-", false},
-      {"13399999", {"Langmuir", false, false, false}, "n", " -.5", "-", false},
+      {"5", {"", db::Kind::Counterion, ""}, "", "-", "  1.5", false},
+      {"5", {"", db::Kind::Blm, ""}, "", "-", " Yes", false},
+      {"11000001", {"", db::Kind::Blm, ""}, "Lk2", " -.5", "-", false},
+      {"13299998", {"", {}, "NICA"}, "m", " -.5", "  1.5", true},
+      {"13299999", {"", {}, "NICA-Donnan"}, "b", " -.5", "-", false},
+      {"13399999", {"", {}, "Langmuir"}, "n", " -.5", "-", false},
   };
   for (const auto& row : rows) {
-    const auto result = shown((row.database.blifile ? "text,label,1\n" : "") + with_id(row.id), row.database);
+    const auto result = shown((row.open.blifile() ? "text,label,1\n" : "") + with_id(row.id), row.open);
     EXPECT_EQ(result.lk2_caption, row.caption) << row.id;
     EXPECT_EQ(result.lk2.value_or("-"), row.lk2) << row.id;
     EXPECT_EQ(result.ksel.value_or("-"), row.ksel) << row.id;
@@ -56,28 +61,55 @@ TEST(Display, ShowsValuesByKindAndIdNumber) {
   }
 }
 
+TEST(Display, SaysWhichValueIsNoNumber) {
+  const db::Database counter{"", db::Kind::Counterion, ""}, blm{"", db::Kind::Blm, ""}, mb{"", {}, "", true};
+  const struct {
+    const char* record;
+    db::Database open;
+    const char* what;
+  } rows[] = {{"x,S,0,0,0,0,0,0,0,0,0,0\n", {}, "ID number"},
+              {"1,S,x,0,0,0,0,0,0,0,0,0\n", {}, "dHr"},
+              {"1,S,0,x,0,0,0,0,0,0,0,0\n", {}, "log K"},
+              {"1,S,0,0,x,0,0,0,0,0,0,0\n", counter, "K-sel"},
+              {"1,S,0,0,0,x,0,0,0,0,0,0\n", blm, "toxicity flag"},
+              {"11000001,S,0,0,0,x,0,0,0,0,0,0\n", {}, "second constant"},
+              {"1,S,0,0,0,0,x,0,0,0,0,0\n", {}, "charge"},
+              {"1,S,0,0,0,0,0,0,0,0,0,1\nx,812\n", {}, "stoichiometry"},
+              {"1,S,0,0,0,0,0,0,0,0,0,1\n1,x\n", {}, "component number"},
+              {"1,S,0,0,0,0,0,0,0,0,0,101\n1,812\n1\nx,812\n", mb, "M.B. stoichiometry"}};
+  for (const auto& [record, open, what] : rows) {
+    try {
+      shown((open.blifile() ? "text,label,1\n" : "") + std::string(record), open);
+      ADD_FAILURE() << what;
+    } catch (const file::Error& error) {
+      EXPECT_EQ(error.what(), "x.mdb, record 1 (S): the " + std::string(what) + " is \"x\", not a number.");
+    }
+  }
+  EXPECT_EQ(shown("1,S,0,0,x,x,0,x,x,x,x,101\n1,812\n1\nx,812\n", {}).id, " 1") << "what is not shown may be text";
+}
+
 TEST(Display, GivesEachComponentItsOwnRow) {
-  const auto result = shown("1,S,0,0,0,0,0,0,0,0,0,104\n1,812,,9999,2,150,1,150\n3\n.5,150,7,4444,9,812\n", {});
-  ASSERT_EQ(result.rows.size(), 4u);
-  EXPECT_EQ(result.nocomp, " 4");
-  const edit::Row expected[] = {{" 1", "=SOH", " 9"}, {" 0", "#9999", ""}, {" 2", "Ca+2", " .5"}, {" 1", "Ca+2", " .5"}};
-  for (std::size_t i = 0; i < 4; ++i) {
+  const std::string record = "1,S,0,0,0,0,0,0,0,0,0,105\n1,812,,9999,2,150,1,150,3,\n3\n.5,150,7,4444,9,812\n";
+  const auto result = shown(record, {.mbfields = true});
+  ASSERT_EQ(result.rows.size(), 5u);
+  EXPECT_EQ(result.nocomp, " 5");
+  const edit::Row expected[] = {
+      {" 1", "=SOH", " 9"}, {" 0", "#9999", ""}, {" 2", "Ca+2", " .5"}, {" 1", "Ca+2", " .5"}, {" 3", "#", ""}};
+  for (std::size_t i = 0; i < 5; ++i) {
     EXPECT_EQ(result.rows[i].stoich, expected[i].stoich);
     EXPECT_EQ(result.rows[i].comp, expected[i].comp);
     EXPECT_EQ(result.rows[i].mbstoich, expected[i].mbstoich);
   }
 }
 
-std::string record_of(const edit::Entry& entry, const edit::Database& database) {
+std::string record_of(const edit::Entry& entry, const db::Database& open) {
   MemorySystem system;
-  system.add("comp.mdb", support::kComponents);
-  std::string out;
+  system.add("comp.mdb", support::kComponents + ",\"none\",0,0,0,\"\"\r\n0,\"zero\",0,0,0,\"\"\r\n");
   try {
-    edit::append_species(out, entry, database, system, "comp.mdb");
+    return edit::species_record(entry, open, edit::numbers_of(entry.components(), system, "comp.mdb"));
   } catch (const file::Refusal& refusal) {
     return refusal.what();
   }
-  return out;
 }
 
 edit::Entry entry() {
@@ -93,14 +125,15 @@ edit::Entry entry() {
 }
 
 TEST(SpeciesRecord, TakesEachFieldFromItsBox) {
+  const db::Database kBlm{"", db::Kind::Blm, ""};
   EXPECT_EQ(record_of(entry(), {}), "12,\"Cu X\",0,-12.78,0,0,1,0,0,0,0,0\r\n");
-  EXPECT_EQ(record_of(entry(), {"", true, false, false}), "12,\"Cu X\",0,-12.78,0,1,1,0,0,0,0,0\r\n");
+  EXPECT_EQ(record_of(entry(), kBlm), "12,\"Cu X\",0,-12.78,0,1,1,0,0,0,0,0\r\n");
   edit::Entry with_lk2 = entry();
   with_lk2.lk2 = " 0,5";
   with_lk2.ksel = "1,5";
-  EXPECT_EQ(record_of(with_lk2, {"", true, false, false}), "12,\"Cu X\",0,-12.78,0,.5,1,0,0,0,0,0\r\n");
-  EXPECT_EQ(record_of(with_lk2, {"NICA", false, false, false}), "12,\"Cu X\",0,-12.78,1.5,.5,1,0,0,0,0,0\r\n");
-  EXPECT_EQ(record_of(with_lk2, {"NICA-Donnan", false, false, false}), "12,\"Cu X\",0,-12.78,0,.5,1,0,0,0,0,0\r\n");
+  EXPECT_EQ(record_of(with_lk2, kBlm), "12,\"Cu X\",0,-12.78,0,.5,1,0,0,0,0,0\r\n");
+  EXPECT_EQ(record_of(with_lk2, {"", {}, "NICA"}), "12,\"Cu X\",0,-12.78,1.5,.5,1,0,0,0,0,0\r\n");
+  EXPECT_EQ(record_of(with_lk2, {"", {}, "NICA-Donnan"}), "12,\"Cu X\",0,-12.78,0,.5,1,0,0,0,0,0\r\n");
 }
 
 TEST(SpeciesRecord, WritesPairsAndBlock) {
@@ -111,15 +144,17 @@ TEST(SpeciesRecord, WritesPairsAndBlock) {
   e.rows[2] = {"x", "cu+2", " 99"};
   const std::string pairs = "1,231,-.5,811,0,\r\n";
   EXPECT_EQ(record_of(e, {}), "12,\"Cu X\",0,-12.78,0,0,1,0,0,0,0,3\r\n" + pairs);
-  const edit::Database with_mb{"Freundlich", false, false, true};
+  const db::Database with_mb{"", db::Kind::Isotherm, "Freundlich", true};
   EXPECT_EQ(record_of(e, with_mb), "12,\"Cu X\",0,-12.78,0,0,1,0,0,0,0,103\r\n" + pairs + "1\r\n.5,811\r\n");
   e.rows[1].mbstoich = "100";
   EXPECT_EQ(record_of(e, with_mb), "12,\"Cu X\",0,-12.78,0,0,1,0,0,0,0,3\r\n" + pairs);
   // A number shown in place of a name that was not found goes back as that number.
   e.rows[2].comp = "#9999";
   EXPECT_NE(record_of(e, {}).find(",0,9999\r\n"), std::string::npos);
-  e.rows[2].comp = "#x";
-  EXPECT_NE(record_of(e, {}).find(",0,\r\n"), std::string::npos);
+  for (const char* none : {"#x", "#", "none", ""}) {
+    e.rows[2].comp = none;
+    EXPECT_NE(record_of(e, {}).find(",0,\r\n"), std::string::npos) << none;
+  }
   e.nocomp = "-1";
   EXPECT_EQ(record_of(e, with_mb), "12,\"Cu X\",0,-12.78,0,0,1,0,0,0,0,-1\r\n");
 }

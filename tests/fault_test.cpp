@@ -3,6 +3,16 @@
 // was told, nothing is left behind, and no file is open.
 #include <gtest/gtest.h>
 
+#include <cstddef>
+#include <functional>
+#include <initializer_list>
+#include <iostream>
+#include <map>
+#include <optional>
+#include <string>
+#include <system_error>
+#include <vector>
+
 #include "support/story.h"
 #include "support/watched_system.h"
 

@@ -3,7 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <optional>
 #include <random>
+#include <string>
+#include <vector>
 
 #include "edit/values.h"
 #include "file/error.h"
@@ -96,7 +99,23 @@ TEST(Number, RuleTakesTheLeadingNumberOfABox) {
     EXPECT_EQ(edit::number_rule(text), plain) << text;
     EXPECT_EQ(edit::comma_number(text), comma) << text;
   }
-  EXPECT_THROW(edit::number_rule("1E999"), file::Refusal);
+  // By the value, not by how it is written.
+  const std::string zeros(400, '0');
+  const std::vector<std::string> zero{"0." + zeros + "1", "." + zeros + "1E50",      "-0.00" + zeros + "7e-3",
+                                      "0E99999999999",    "1E-99999999999999999999", "1" + zeros + "E-800"};
+  for (const std::string& text : zero) EXPECT_EQ(edit::number_rule(text), 0) << text;
+  EXPECT_EQ(edit::number_rule("1" + zeros + "E-400"), 1);
+  EXPECT_EQ(edit::number_rule("." + zeros + "1E401"), 1);
+  const std::vector<std::string> large{"1" + zeros + "E-5", "." + zeros + "1E+800", "1E999", "-1E99999999999999999999",
+                                       "123456" + zeros + ".5"};
+  for (const std::string& text : large) {
+    try {
+      edit::number_rule(text);
+      ADD_FAILURE() << text;
+    } catch (const file::Refusal& refusal) {
+      EXPECT_EQ(refusal.what(), "\"" + text + "\" is too large a number. Correct it before saving.");
+    }
+  }
 }
 
 }  // namespace

@@ -2,7 +2,16 @@
 // each write also torn in the middle. In every state that this leaves, a whole database can be found.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <iostream>
+#include <map>
 #include <set>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include "file/replacement.h"
 #include "support/memory_system.h"
@@ -187,7 +196,7 @@ TEST(PowerCut, LeavesAWholeDatabase) {
         EXPECT_TRUE(whole || kept) << "found: " << found;
       });
       {
-        file::Replacement replacement(recorder.watched, "dbnamep.mdb", c.target);
+        file::Replacement replacement(recorder.watched, "dbnamep.mdb", c.target, {"comp.mdb", ""});
         EXPECT_EQ(replacement.commit(fresh), "");
         // What the user was not told about as failed is on the disk.
         recorder.examine_with([&](const Disk& disk) { EXPECT_EQ(content(disk, c.target), fresh); });

@@ -1,5 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <vector>
+
 #include "db/components.h"
 #include "db/kind.h"
 #include "db/rewrite.h"
@@ -83,13 +88,11 @@ TEST(Kind, IsToldByTheEndOfThePath) {
 std::string rewritten(const std::string& content, const std::string& name = "x.mdb") {
   MemorySystem system;
   system.add(name, content);
-  db::Rewrite order;
-  order.database = name;
-  if (db::has_model(name)) order.model = "";
-  if (db::kind_of(name) == db::Kind::Blm) order.critical_f = .5;
-  order.decide = [](const db::Record&, std::string&) { return db::Decision::Keep; };
+  const db::Database open{.path = name, .kind = db::kind_of(name)};
   try {
-    EXPECT_EQ(db::rewrite(system, order), "");
+    db::Rewrite rewrite(system, open, "comp.mdb", {.model = "", .critical_f = .5});
+    EXPECT_FALSE(rewrite.keep_until(std::nullopt));
+    EXPECT_EQ(rewrite.commit(), "");
   } catch (const file::Error& error) {
     EXPECT_EQ(system.content(name), content);
     return error.what();
@@ -98,12 +101,23 @@ std::string rewritten(const std::string& content, const std::string& name = "x.m
 }
 
 TEST(Rewrite, KeepsTypesAndGivesNumbersOneForm) {
-  const std::string marker = "0,,0,0,0,0,0,0,0,0,0,0\n";
+  const std::string marker = "0,,0,0,0,0,0,0,0,0,0,0\n", one = lines({"1,\"a\",0,0,0,0,0,0,0,0,0,0"});
   const struct {
     std::string before, after;
   } rows[] = {
       {marker + "whatever follows", support::kTrailer},
       {"", ""},
+      // An end marker after an empty line, and what is as good as the end of the file.
+      {"\r\n" + support::kTrailer, support::kTrailer},
+      {one + "\r\n" + support::kTrailer + "\x1a", one + support::kTrailer},
+      {one + ",,,,,,,,,,,,,0,0.0,\"\",For KELMAR", one + support::kTrailer},
+      {one + "\x1a", one},
+      {one + " \t\r\n\x1a\r\n\r\n", one},
+      {one + "\r\n ,,\r\n" + std::string(10000, '\n'), one},
+      {one + "\x1a\r\n\x1a,,,,,,,,,,,,", one + "\"\x1a\",\"\x1a\",,,,,,,,,,\r\n"},
+      {"\xEF\xBB\xBF" + one, one},
+      {"\xEF\xBB\xBF\xEF\xBB\xBFx\"" + one.substr(1), " \xEF\xBB\xBFx\"" + one.substr(1)},
+      {"1\t,\t\"a\"\t,\t 0.5 \t,b\tc,0,0,0,0,0,0,0,0\r\n", lines({"1,\"a\",.5,\"b\tc\",0,0,0,0,0,0,0,0"})},
       {"1,a,0.50,+3,\"2.5\",,x,1E5,0.00001,-0.0,\"a,b\",0\n" + marker,
        "1,\"a\",.5,3,\"2.5\",,\"x\",100000,1E-05,0,\"a,b\",0\r\n" + support::kTrailer},
       // Pairs and blocks, however they are spread over lines; a file without end marker stays without.
@@ -123,16 +137,25 @@ TEST(Rewrite, KeepsTypesAndGivesNumbersOneForm) {
     EXPECT_EQ(rewritten(after), after) << "not stable: " << before;
   }
   EXPECT_EQ(rewritten("\"Temkin\"\n" + marker, "x.iso"), "\"Temkin\"\r\n" + support::kTrailer);
-  EXPECT_EQ(rewritten("text,\"more\", 0.25\n" + marker, "x.bli"), "\"text\"\r\n\"more\",.5\r\n" + support::kTrailer);
+  EXPECT_EQ(rewritten("\xEF\xBB\xBFtext,\"more\", 0.25\n" + marker, "x.bli"),
+            "\"text\"\r\n\"more\",.5\r\n" + support::kTrailer);
 }
 
 TEST(Rewrite, SaysWhatIsWrongAndWhere) {
+  const std::string hidden =
+      "an empty line or field ends the list here, and what stands after it would be lost. Nothing was changed. Remove the "
+      "empty line with a text editor.";
   const std::string first = "1,a,0,0,0,0,0,0,0,0,0,0\n";
   const struct {
     std::string content, message;
   } rows[] = {
       {first + "2,b,0", "x.mdb, record 2 (b): the file ends inside the record."},
-      {first + "\r\n", "x.mdb, record 2: the file ends inside the record."},
+      {first + "\r\n2", "x.mdb, record 2 (2): the file ends inside the record."},
+      {first + "\r\n2,b,0,0,0,0,0,0,0,0,0,0\r\n", "x.mdb, record 2: " + hidden},
+      {first + std::string(12, ',') + support::kTrailer + "x", "x.mdb, record 2: " + hidden},
+      {first + std::string(12, ',') + "\"open", "x.mdb, record 2: " + hidden},
+      {first + std::string(12, ',') + "\" \"", "x.mdb, record 2: " + hidden},
+      {first + std::string(300000, ',') + "1", "x.mdb, record 2: " + hidden},
       {first + "2,b,0,0,0,0,0,0,0,0,0,two\n", "x.mdb, record 2 (b): the number of components is \"two\", not a number."},
       {first + "2,b,0,0,0,0,0,0,0,0,0,11\n", "x.mdb, record 2 (b): it has more than 10 component pairs."},
       {first + "2,b,0,0,0,0,0,0,0,0,0,100\n", "x.mdb, record 2 (b): it has more than 10 component pairs."},
@@ -143,7 +166,9 @@ TEST(Rewrite, SaysWhatIsWrongAndWhere) {
       {first + std::string(70000, '1'), "x.mdb, record 2: a field is longer than 64 KiB."},
   };
   for (const auto& [content, message] : rows) EXPECT_EQ(rewritten(content), message);
-  EXPECT_EQ(rewritten("a,b,c\n", "x.bli"), "x.bli, before the first record: the critical f value is \"c\", not a number.");
+  EXPECT_EQ(rewritten("a,b,c\n", "x.bli"),
+            "x.bli, before the first record: the critical f value is \"c\", not a number. Mend the file with "
+            "a text editor.");
   EXPECT_EQ(rewritten("", "x.iso"), "x.iso, before the first record: the file ends too early.");
 }
 
@@ -158,6 +183,21 @@ TEST(Rewrite, LeavesAListAloneThatItCannotHoldWhole) {
   EXPECT_EQ(rewritten(species).size(), species.size() + 2 * 4000);  // the name gets its quotes
   const std::string full = species.substr(0, species.size() / 4000 * 3999);
   EXPECT_EQ(rewritten(full + support::kTrailer).size(), full.size() + 2 * 3999 + support::kTrailer.size());
+}
+
+TEST(Rewrite, LeavesALargeDatabaseAlone) {
+  const std::string name(60000, 'n');
+  std::string content;
+  for (int i = 0; i < 1150; ++i) content.append("1,").append(name).append(",0,0,0,0,0,0,0,0,0,0\r\n");
+  EXPECT_EQ(rewritten(content), "x.mdb is larger than 64 MiB. The editor leaves it as it is.");
+  MemorySystem system;
+  system.add("x.mdb", content);
+  try {
+    (void)file::copy_over(system, "x.mdb", "y.mdb", {"comp.mdb", ""});
+    ADD_FAILURE();
+  } catch (const file::Error& error) {
+    EXPECT_STREQ(error.what(), "cannot read x.mdb as a whole: it is larger than any database.");
+  }
 }
 
 // A database cut at every byte is read to an end or an error, and never rewritten with less than it held.
@@ -204,6 +244,11 @@ TEST(Components, ThatCannotBeReadAreNeverGuessed) {
   EXPECT_EQ(names.failure, "cut, record 2: the file ends inside the record.");
   const std::string wanted[] = {"Ca+2"};
   EXPECT_THROW(db::component_numbers(system, "cut", wanted, db::NameMatch::AsRead), file::Error);
+  for (const char* end : {"\r\n", "\x1a", "\r\n\r\n\x1a\r\n", " , \t"}) {
+    system.add("blank", std::string("150,Ca+2,0,0,0,x\r\n") + end);
+    EXPECT_EQ(db::component_names(system, "blank", numbers).failure, "");
+    EXPECT_EQ(db::component_numbers(system, "blank", wanted, db::NameMatch::AsRead).at("Ca+2").value, 150);
+  }
   system.add("text", "abc,Ca+2,0,0,0,x\r\n");
   EXPECT_THROW(db::component_numbers(system, "text", wanted, db::NameMatch::AsRead), file::Error);
   EXPECT_EQ(db::component_names(system, "nowhere", numbers).failure, "cannot open nowhere: No such file or directory.");

@@ -3,12 +3,20 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
+#include <system_error>
+#include <cstddef>
+#include <string>
+
 #include "support/memory_system.h"
+#include "support/watched_system.h"
 
 namespace {
 
 using file::Type;
 using support::MemorySystem;
+
+const file::Spared kSpared{"comp.mdb", "the component database"};
 
 class Replace : public testing::Test {
  protected:
@@ -17,7 +25,7 @@ class Replace : public testing::Test {
   // The message of a failed replacement, or "".
   std::string replace(const std::string& target, const std::string& content = "new") {
     try {
-      return file::Replacement(system, "dbnamep.mdb", target).commit(content);
+      return file::Replacement(system, "dbnamep.mdb", target, kSpared).commit(content);
     } catch (const file::Error& error) {
       return error.what();
     }
@@ -119,7 +127,7 @@ TEST_F(Replace, RemovesAPlainLeftoverButNoneInUse) {
   const std::string in_use =
       "dbnamep.mdb is in use: another editor is saving in this folder. Wait until it is done and try again.";
   {
-    file::Replacement first(system, "dbnamep.mdb", "x.mdb");
+    file::Replacement first(system, "dbnamep.mdb", "x.mdb", kSpared);
     EXPECT_EQ(replace("x.mdb"), in_use);
     EXPECT_EQ(first.commit("first"), "");
   }
@@ -128,7 +136,7 @@ TEST_F(Replace, RemovesAPlainLeftoverButNoneInUse) {
 
   // A file that has come under the name meanwhile is another editor's: it takes nobody's place and is not removed.
   {
-    file::Replacement first(system, "dbnamep.mdb", "x.mdb");
+    file::Replacement first(system, "dbnamep.mdb", "x.mdb", kSpared);
     system.add("dbnamep.mdb", "half a database");
     EXPECT_THROW((void)first.commit("second"), file::Refusal);
   }
@@ -140,11 +148,74 @@ TEST_F(Replace, RemovesAPlainLeftoverButNoneInUse) {
   EXPECT_EQ(system.content("dbnamep.mdb.keep"), "whole");
 }
 
+// Each call that fails is told with what it was for, the file, and the system's reason.
+TEST_F(Replace, SaysWhatFailedAndWhere) {
+  using support::Call;
+  const struct {
+    Call call;
+    int nth;
+    const char* message;
+  } rows[] = {
+      {Call::StatusOfPath, 1, "cannot look at x.mdb"},
+      {Call::StatusOfPath, 2, "cannot look at comp.mdb"},
+      {Call::RealPath, 1, "cannot find x.mdb"},
+      {Call::OpenExisting, 1, "cannot open dbnamep.mdb"},
+      {Call::Lock, 1, "cannot lock dbnamep.mdb"},
+      {Call::Remove, 1, "cannot remove dbnamep.mdb"},
+      {Call::CreateNew, 1, "cannot create dbnamep.mdb"},
+      {Call::Write, 1, "cannot write dbnamep.mdb"},
+      {Call::SetOwnership, 1, "cannot set the permissions of dbnamep.mdb"},
+      {Call::Flush, 1, "cannot write to the disk dbnamep.mdb"},
+      {Call::Close, 2, "cannot close dbnamep.mdb"},
+      {Call::Read, 1, "cannot read back dbnamep.mdb"},
+      {Call::Rename, 1, "cannot replace /kelmar/x.mdb"},
+  };
+  for (const auto& [call, nth, message] : rows) {
+    system.add("dbnamep.mdb", "a leftover");
+    support::WatchedSystem watched(system);
+    watched.before = [&, made = 0](const support::CallInfo& info) mutable -> std::optional<support::Instead> {
+      if (info.call != call || ++made != nth) return std::nullopt;
+      return support::Instead{make_error_code(std::errc::io_error)};
+    };
+    try {
+      (void)file::Replacement(watched, "dbnamep.mdb", "x.mdb", kSpared).commit("new");
+      ADD_FAILURE() << message;
+    } catch (const file::Error& error) {
+      EXPECT_EQ(error.what(), std::string(message) + ": Input/output error.");
+    }
+    EXPECT_EQ(system.content("x.mdb"), "old content");
+    if (system.has("dbnamep.mdb")) system.remove("dbnamep.mdb");
+  }
+  support::WatchedSystem watched(system);
+  watched.before = [](const support::CallInfo& info) -> std::optional<support::Instead> {
+    if (info.call != support::Call::FlushFolder) return std::nullopt;
+    return support::Instead{make_error_code(std::errc::io_error)};
+  };
+  EXPECT_EQ(file::Replacement(watched, "dbnamep.mdb", "x.mdb", kSpared).commit("new"),
+            "cannot write to the disk the folder of /kelmar/x.mdb: Input/output error. The database holds the new content, "
+            "but a power cut may bring the old one back: save it again.");
+}
+
+TEST_F(Replace, TellsOfADiskThatDoesNotHoldWhatWasWritten) {
+  support::WatchedSystem watched(system);
+  watched.after = [this](const support::CallInfo& info) {
+    if (info.call == support::Call::Flush) system.at("dbnamep.mdb").content += '!';
+  };
+  try {
+    (void)file::Replacement(watched, "dbnamep.mdb", "x.mdb", kSpared).commit("new");
+    ADD_FAILURE();
+  } catch (const file::Error& error) {
+    EXPECT_STREQ(error.what(), "dbnamep.mdb does not hold what was written to it. The disk may be failing.");
+  }
+  EXPECT_EQ(system.content("x.mdb"), "old content");
+  expect_nothing_left(1);
+}
+
 TEST_F(Replace, CopiesOverButNotOntoItself) {
-  EXPECT_EQ(file::copy_over(system, "x.mdb", "y.mdb"), "");
+  EXPECT_EQ(file::copy_over(system, "x.mdb", "y.mdb", kSpared), "");
   EXPECT_EQ(system.content("y.mdb"), "old content");
   system.link("z.mdb", "/kelmar/x.mdb");
-  EXPECT_EQ(file::copy_over(system, "x.mdb", "z.mdb"), "");
+  EXPECT_EQ(file::copy_over(system, "x.mdb", "z.mdb", kSpared), "");
   EXPECT_EQ(system.at("z.mdb").type, Type::Link);
   expect_nothing_left(3);
 }

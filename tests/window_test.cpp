@@ -1,8 +1,15 @@
 // What the window does beyond single rules: stories on files in memory.
 #include <gtest/gtest.h>
 
+#include <optional>
+#include <system_error>
+#include <cstddef>
+#include <string>
+#include <vector>
+
 #include "db/rewrite.h"
 #include "support/story.h"
+#include "support/watched_system.h"
 
 namespace {
 
@@ -78,6 +85,43 @@ TEST_F(Story, StartUpWithoutHandOverFiles) {
   EXPECT_FALSE(second.form.window().ended);
   EXPECT_TRUE(second.Shown(lblNameDb));
   EXPECT_TRUE(second.told.empty());
+}
+
+TEST_F(Story, StartUpInAFolderThatCannotBeUsed) {
+  const struct {
+    support::Call call;
+    const char* message;
+  } rows[] = {{support::Call::CurrentFolder, "[The editor cannot start: there is no current folder: Permission denied."},
+              {support::Call::ChangeFolder,
+               "[The editor cannot start in /kelmar: the folder cannot be entered: Permission denied."}};
+  for (const auto& row : rows) {
+    support::WatchedSystem watched(system);
+    watched.before = [&row](const support::CallInfo& info) -> std::optional<support::Instead> {
+      if (info.call != row.call) return std::nullopt;
+      return support::Instead{make_error_code(std::errc::permission_denied)};
+    };
+    Program failing(watched);
+    failing.form.load();
+    EXPECT_EQ(failing.LastBox(), std::string(row.message) + " Start it from Kelmar, in Kelmar's folder.]");
+    EXPECT_EQ(failing.form.window().status, 1);
+  }
+  system.add("dabase.txt", "");
+  program.form.load();
+  EXPECT_EQ(program.LastBox(),
+            "[The editor cannot start in /kelmar: dabase.txt is empty. Start it from Kelmar, in Kelmar's folder.]");
+}
+
+TEST_F(Story, FileThatEndsInsideARecordIsNotRewritten) {
+  const std::string content = species("501", "CuX") + "502,FeX,0";
+  Start("x.mdb", content);
+  program.Select("CuX");
+  const std::string reason = "x.mdb, record 2 (FeX): the file ends inside the record.";
+  program.Save();
+  EXPECT_EQ(program.LastBox(), "[The database was not saved: " + reason + " Put that right and save again.]");
+  program.Answer(ui::Answer::Yes);
+  program.Click(cmdDelete);
+  EXPECT_EQ(program.LastBox(), "[The species was not deleted: " + reason + " Put that right and try again.]");
+  EXPECT_EQ(system.content("x.mdb"), content);
 }
 
 TEST_F(Story, ChangeOfASpecies) {
@@ -210,6 +254,163 @@ TEST_F(Story, NicaDonnanKeepsItsLeadingFieldBeforeAnySpeciesWasShown) {
             "\"NICA-Donnan\"\r\n" + lines({"7,\"New\",0,1,0,0,0,0,0,0,0,0"}) + species("501", "CuX") + kTrailer);
 }
 
+// A file is written as what it holds, whatever its name says: each kind under a name of each kind.
+TEST(Kinds, AreHeldUnderEveryName) {
+  const struct {
+    const char *name, *what;
+    std::string leading;
+  } kinds[] = {{"MDB", "a complexation / sorption database", ""},
+               {"CDB", "a counterion selectivity database", ""},
+               {"ISO", "an isotherm database", "\"Langmuir\"\r\n"},
+               {"NIC", "a NICA-Donnan database", "\"NICA-Donnan\"\r\n"},
+               {"BLI", "a BLM parameter database", "\"text\"\r\n\"label\",.5\r\n"}};
+  const std::string old = species("501", "CuX") + species("502", "FeX"),
+                    changed = species("501", "CuX") + lines({"502,\"FeX\",0,7,0,0,2,0,0,0,0,2", "1,231,-1,9999"});
+  for (const auto& held : kinds) {
+    for (const auto& named : kinds) {
+      SCOPED_TRACE(std::string(held.name) + " as " + named.name);
+      support::MemorySystem system;
+      system.add("dabase.txt", "C");
+      system.add("comp.mdb", support::kComponents);
+      const std::string first = std::string("a.") + held.name, second = std::string("b.") + named.name;
+      system.add("sorptemp.dat", first);
+      system.add(first, held.leading + old + kTrailer);
+      Program program(system);
+      program.form.load();
+      const auto to_second = [&] {
+        program.Choose(second);
+        program.Click(cmdNewDb);
+        const bool told = program.LastBox() == "[" + second + " holds " + held.what + ", but its name is that of " +
+                                                   named.what +
+                                                   ". The list and the boxes may therefore be wrong: give it a name that " +
+                                                   "ends in ." + held.name + " and open it again.]";
+        EXPECT_EQ(told, &held != &named) << program.LastBox();
+        program.told.clear();
+      };
+      // A plain copy that stops at a message, and a change.
+      to_second();
+      EXPECT_EQ(system.content(second), system.content(first));
+      program.Choose(first);
+      program.Click(mnuFileOpen);
+      program.Select("FeX");
+      program.Type(txtlogk, "7");
+      to_second();
+      EXPECT_EQ(system.content(second), held.leading + changed + kTrailer);
+      // From now on the second is open. The list may be wrong: the selection is made for the user.
+      ui::Control& list = program.form.window()[lstReactions];
+      const auto select = [&](const char* name) {
+        list.entries = {name};
+        list.selected = 0;
+      };
+      select("FeX");
+      program.Type(txtlogk, "8");
+      program.Save();
+      const std::string again = species("501", "CuX") + lines({"502,\"FeX\",0,8,0,0,2,0,0,0,0,2", "1,231,-1,9999"});
+      EXPECT_EQ(system.content(second), held.leading + again + kTrailer);
+      add_species(program);
+      const std::string added = lines({"7,\"New\",0,1,0,0,0,0,0,0,0,0"});
+      EXPECT_EQ(system.content(second), held.leading + added + again + kTrailer);
+      select("CuX");
+      program.Answer(ui::Answer::Yes);
+      program.form.click(cmdDelete);
+      EXPECT_EQ(system.content(second), held.leading + added + again.substr(again.find("502")) + kTrailer);
+      EXPECT_EQ(system.content(first), held.leading + old + kTrailer);
+    }
+  }
+}
+
+TEST_F(Story, SaveWithoutASelectionChangesNoSpecies) {
+  const std::string nameless = lines({"502,\"\",0,2,0,0,2,0,0,0,0,0"});
+  Start("x.iso", "\"Langmuir\"\r\n" + species("501", "CuX") + nameless + kTrailer);
+  program.Select("CuX");
+  program.person.pick(cboIsoterm, 4);
+  program.Save();
+  EXPECT_EQ(system.content("x.iso"), "\"Temkin\"\r\n" + species("501", "CuX") + nameless + kTrailer);
+  program.Select("");
+  program.Type(txtlogk, "7");
+  program.Save();
+  EXPECT_EQ(system.content("x.iso"),
+            "\"Temkin\"\r\n" + species("501", "CuX") + lines({"502,\"\",0,7,0,0,2,0,0,0,0,0"}) + kTrailer);
+}
+
+TEST_F(Story, ComponentDatabaseIsNeverWritten) {
+  const std::string content = species("501", "CuX") + kTrailer;
+  Start("x.mdb", content);
+  const auto refusal = [](const std::string& path) {
+    return "[" + path + " is the component database, which is never changed. Choose another file for one of the two.]";
+  };
+  system.hard_link("other.mdb", "comp.mdb");
+  system.link("link.mdb", "comp.mdb");
+  for (const char* path : {"comp.mdb", "/kelmar/comp.mdb", "other.mdb", "link.mdb"}) {
+    program.Select("CuX");
+    program.Choose(path);
+    program.Click(cmdNewDb);
+    EXPECT_EQ(program.LastBox(), refusal(path));
+    EXPECT_EQ(program.Text(lblNameDb), "x.mdb");
+  }
+  program.Choose("x.mdb");
+  program.Click(cmdCompdb);
+  program.Save();
+  EXPECT_EQ(program.LastBox(), refusal("x.mdb"));
+  program.Answer(ui::Answer::Yes);
+  program.Click(cmdDelete);
+  EXPECT_EQ(program.LastBox(), refusal("x.mdb"));
+  // Under the name of the temporary file too, which would be removed as a leftover.
+  system.add("dbnamep.mdb", support::kComponents);
+  program.Choose("dbnamep.mdb");
+  program.Click(cmdCompdb);
+  program.Save();
+  EXPECT_EQ(program.LastBox(), refusal("dbnamep.mdb"));
+  EXPECT_EQ(system.content("x.mdb"), content);
+  for (const char* path : {"comp.mdb", "dbnamep.mdb"}) EXPECT_EQ(system.content(path), support::kComponents);
+}
+
+TEST_F(Story, WhatFollowsAnEmptyLineIsNotDropped) {
+  const std::string content = species("501", "CuX") + "\r\n" + species("502", "FeX") + kTrailer;
+  Start("x.mdb", content);
+  EXPECT_EQ(program.Listed(), std::vector<std::string>{"CuX"});
+  program.Select("CuX");
+  const std::string refusal =
+      "record 2: an empty line or field ends the list here, and what stands after it would be lost. Nothing was changed. "
+      "Remove the empty line with a text editor.]";
+  program.Save();
+  EXPECT_EQ(program.LastBox(), "[x.mdb, " + refusal);
+  program.Answer(ui::Answer::Yes);
+  program.Click(cmdDelete);
+  EXPECT_EQ(program.LastBox(), "[x.mdb, " + refusal);
+  program.Choose("new.iso");
+  program.Click(cmdNewDb);
+  EXPECT_EQ(program.LastBox(), "[new.iso, " + refusal);
+  EXPECT_EQ(system.content("x.mdb"), content);
+  EXPECT_EQ(system.content("new.iso"), content);
+}
+
+TEST_F(Story, ValueThatIsNotShownMakesNoDisplayFail) {
+  const std::string content =
+      lines({"501,\"CuX\",0,1.5,0,0,2,0,0,0,0,102", "1,231,-1,", "1", "x,231"}) + species("502", "FeX") + kTrailer;
+  Start("x.mdb", content);
+  program.Select("CuX");
+  EXPECT_TRUE(program.told.empty());
+  EXPECT_EQ(program.Text(txtComp(2)), "#");
+  program.Save();
+  EXPECT_EQ(system.content("x.mdb"),
+            lines({"501,\"CuX\",0,1.5,0,0,2,0,0,0,0,2", "1,231,-1,"}) + species("502", "FeX") + kTrailer);
+}
+
+TEST_F(Story, CriticalFValueThatIsTextIsRefusedAndTold) {
+  const std::string content = "\"text\"\r\n\"label\",abc\r\n" + species("501", "CuX") + kTrailer;
+  Start("x.bli", content);
+  for (const int box : {txtlogk, txtID, txtCharge, txtNocomp}) program.Type(box, "1");
+  program.form.window()[lstReactions].entries = {"CuX"};
+  program.form.window()[lstReactions].selected = 0;
+  program.Choose("new.bli");
+  program.Click(cmdNewDb);
+  EXPECT_EQ(program.LastBox(),
+            "[new.bli, before the first record: the critical f value is \"abc\", not a number. Mend the file "
+            "with a text editor.]");
+  EXPECT_EQ(system.content("new.bli"), content);
+}
+
 TEST_F(Story, SavingToANewDatabase) {
   const std::string content = species("501", "CuX") + kTrailer;
   Start("x.mdb", content);
@@ -226,13 +427,25 @@ TEST_F(Story, SavingToANewDatabase) {
   program.Choose("/kelmar/new.mdb");
   program.Click(cmdNewDb);
   EXPECT_EQ(system.content("new.mdb"), changed);
-  // A failure is silent, a refusal of ours is not.
+  // A failure is silent, a refusal of ours is not. What then lies under the new name is not taken for the database.
   program.told.clear();
   program.Select("CuX");
-  program.Choose("/nowhere/x.mdb");
+  program.Choose("/nowhere/x.iso");
   program.Click(cmdNewDb);
   EXPECT_EQ(program.told.size(), 1u);
-  EXPECT_EQ(program.form.state().dbname, "/nowhere/x.mdb");
+  EXPECT_EQ(program.form.state().open.path, "/nowhere/x.iso");
+  system.add_folder("/nowhere");
+  system.add("/nowhere/x.iso", "\"Langmuir\"\r\n" + content);
+  const std::string another =
+      " is another database of another kind: the one that was open could not be copied there. Open the one or the other "
+      "with "
+      "the File menu.]";
+  program.Save();
+  EXPECT_EQ(program.LastBox(), "[/nowhere/x.iso" + another);
+  program.Choose("copy.nic");
+  program.Click(cmdNewDb);
+  EXPECT_EQ(program.LastBox(), "[copy.nic" + another);
+  EXPECT_EQ(system.content("copy.nic"), system.content("/nowhere/x.iso"));
   system.add("locked.mdb", "old");
   system.at("locked.mdb").writable = false;
   program.Choose("new.mdb");
@@ -270,9 +483,25 @@ TEST_F(Story, DeletionOfASpecies) {
   EXPECT_TRUE(program.Shown(cmdDelete));
 }
 
+// Whatever happens to the window while the question stands, what it was asked about is deleted.
+TEST_F(Story, DeletesWhatWasAskedAbout) {
+  Start("x.mdb", species("501", "CuX") + species("502", "FeX") + kTrailer);
+  program.Select("CuX");
+  program.dialogs.told = [this](const std::string&) { program.form.window()[lstReactions].selected = 1; };
+  program.Answer(ui::Answer::Yes);
+  program.Click(cmdDelete);
+  EXPECT_EQ(system.content("x.mdb"), species("502", "FeX") + kTrailer);
+  EXPECT_EQ(program.Listed(), std::vector<std::string>{"FeX"});
+}
+
 TEST_F(Story, SuggestionThatFailsEndsAndIsTold) {
+  system.add("comp.mdb", "1E12,huge,0,0,0,0\r\n");
   Start("x.mdb", kTrailer);
   program.Click(cmdAddnew);
+  program.Type(cboComp, "huge");
+  program.Type(txtStoicn, "1");
+  program.Click(cmdSuggest);
+  EXPECT_EQ(program.LastBox(), "[The component numbers are too large to build an ID number of. Type one.]");
   program.Choose("nowhere.mdb");
   program.Click(cmdCompdb);
   program.Click(cmdSuggest);

@@ -18,9 +18,9 @@ struct FileRequest {
   // lower case.
   std::string_view filter{};
   std::string folder{};  // where the dialog begins
-  // Of a save: a name without an extension gets that of the filter, and an existing file is replaced only when the user
-  // says so. Otherwise any name will do.
-  bool writes = false;
+  // Of a file that will be written: a name that the user types without an extension gets this one, and an existing file is
+  // replaced only when the user says so. Empty: nothing will be written, and any name will do.
+  std::string_view extension{};
 };
 
 class Dialogs {

@@ -12,7 +12,7 @@ import tempfile
 from outside import *
 
 CALLS = {
-    "openat": ["EIO", "EACCES", "EINTR"], "read": ["EIO", "EINTR"], "pwrite64": ["ENOSPC", "EIO", "EDQUOT", "EINTR"],
+    "openat": ["EIO", "EACCES", "EINTR"], "pread64": ["EIO", "EINTR"], "pwrite64": ["ENOSPC", "EIO", "EDQUOT", "EINTR"],
     "fsync": ["EIO", "ENOSPC"], "close": ["EIO"], "rename": ["EIO", "EACCES", "EXDEV", "ENOSPC"],
     "unlink": ["EIO", "EACCES"], "flock": ["EAGAIN", "ENOLCK"], "fchmod": ["EPERM", "EIO"], "fchown": ["EPERM", "EIO"],
     "newfstatat": ["EIO", "EACCES"], "ftruncate": ["EIO"], "getcwd": ["ENOENT"], "chdir": ["EACCES"],

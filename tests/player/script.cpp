@@ -1,6 +1,8 @@
 #include "player/script.h"
 
 #include <charconv>
+#include <string_view>
+#include <system_error>
 
 #include "app/controls.h"
 

@@ -1,5 +1,7 @@
 #include "player/transcript.h"
 
+#include <string_view>
+
 namespace player {
 namespace {
 
@@ -27,12 +29,12 @@ std::string state_block(const ui::Window& window, const app::frmMaindb::State& s
   };
   const auto flag = [&block](const char* name, bool value) { block.append(name).append(value ? " true\n" : " false\n"); };
   text("compdb", state.compdb);
-  text("dbname", state.dbname);
-  flag("blifile", state.blifile);
-  flag("cdbfile", state.cdbfile);
-  text("isomodel", state.isomodel);
+  text("dbname", state.open.path);
+  flag("blifile", state.open.blifile());
+  flag("cdbfile", state.open.cdbfile());
+  text("isomodel", state.open.isomodel);
   text("isoselect", state.isoselect);
-  flag("mbfields", state.mbfields);
+  flag("mbfields", state.open.mbfields);
   text("changedone", state.changedone);
   flag("suggestrun", state.suggestrun);
   return block + "compslot " + std::to_string(state.compslot) + "\nend\n";

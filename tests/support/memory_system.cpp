@@ -1,6 +1,10 @@
 #include "support/memory_system.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <string_view>
+#include <system_error>
+#include <utility>
 
 namespace support {
 namespace {
@@ -108,10 +112,9 @@ std::error_code MemorySystem::lock(Handle handle) {
   return {};
 }
 
-std::error_code MemorySystem::read(Handle handle, char* bytes, std::size_t size, std::size_t& got) {
-  Open& open = handles_.at(handle);
-  got = open.file->content.copy(bytes, size, open.position);
-  open.position += got;
+std::error_code MemorySystem::read(Handle handle, std::uint64_t offset, char* bytes, std::size_t size, std::size_t& got) {
+  const std::string& content = handles_.at(handle).file->content;
+  got = content.copy(bytes, size, std::min(static_cast<std::size_t>(offset), content.size()));
   return {};
 }
 

@@ -2,9 +2,12 @@
 // names of one file, permissions, locks, file systems of their own.
 #pragma once
 
+#include <cstdint>
 #include <map>
 #include <memory>
 #include <string>
+#include <string_view>
+#include <system_error>
 #include <vector>
 
 #include "file/system.h"
@@ -47,7 +50,7 @@ class MemorySystem : public file::System {
   std::error_code create_new(const std::string& path, file::Access access, file::Handle& handle) override;
   std::error_code open_existing(const std::string& path, file::Handle& handle) override;
   std::error_code lock(file::Handle handle) override;
-  std::error_code read(file::Handle handle, char* bytes, std::size_t size, std::size_t& got) override;
+  std::error_code read(file::Handle handle, std::uint64_t offset, char* bytes, std::size_t size, std::size_t& got) override;
   std::error_code write(file::Handle handle, std::uint64_t offset, std::string_view bytes, std::size_t& put) override;
   std::error_code truncate(file::Handle handle, std::uint64_t size) override;
   std::error_code flush(file::Handle handle) override;
@@ -66,7 +69,6 @@ class MemorySystem : public file::System {
  private:
   struct Open {
     std::shared_ptr<File> file;
-    std::size_t position = 0;
     bool holds_lock = false;
   };
 

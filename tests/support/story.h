@@ -3,6 +3,12 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
 #include "app/frmMaindb.h"
 #include "support/memory_system.h"
 #include "ui/memory/memory_window.h"

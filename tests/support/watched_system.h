@@ -1,9 +1,12 @@
 // Passes every call on to another system, and tells of it before; what it is told back, the call gives in its place.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <system_error>
 
 #include "file/system.h"
 
@@ -42,7 +45,7 @@ struct CallInfo {
 
 // What becomes of a call: nothing means that it is made; else an error in its place, or only half of what it transfers.
 struct Instead {
-  std::error_code error;
+  std::error_code error{};
   bool half = false;
 };
 
@@ -68,9 +71,9 @@ class WatchedSystem final : public file::System {
   std::error_code lock(file::Handle handle) override {
     return make({Call::Lock, handle, "", ""}, [&](CallInfo&) { return inner_.lock(handle); });
   }
-  std::error_code read(file::Handle handle, char* bytes, std::size_t size, std::size_t& got) override {
+  std::error_code read(file::Handle handle, std::uint64_t offset, char* bytes, std::size_t size, std::size_t& got) override {
     return make({Call::Read, handle, "", ""},
-                [&](CallInfo&) { return inner_.read(handle, bytes, half_ ? (size + 1) / 2 : size, got); });
+                [&](CallInfo&) { return inner_.read(handle, offset, bytes, half_ ? (size + 1) / 2 : size, got); });
   }
   std::error_code write(file::Handle handle, std::uint64_t offset, std::string_view bytes, std::size_t& put) override {
     return make({Call::Write, handle, "", "", offset, bytes}, [&](CallInfo& info) {

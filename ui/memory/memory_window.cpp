@@ -1,5 +1,8 @@
 #include "ui/memory/memory_window.h"
 
+#include <string_view>
+#include <utility>
+
 namespace ui::memory {
 namespace {
 

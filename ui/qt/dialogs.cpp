@@ -3,6 +3,10 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
 
 #include "ui/qt/text.h"
 
@@ -49,10 +53,10 @@ std::optional<std::string> QtDialogs::choose_file(const FileRequest& request) {
   const bool opens = request.form == FileRequest::Form::Open;
   dialog.setAcceptMode(opens ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
   dialog.setFileMode(opens ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
-  dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.writes);
+  dialog.setOption(QFileDialog::DontConfirmOverwrite, request.extension.empty());
   dialog.setOption(QFileDialog::HideNameFilterDetails);  // the descriptions name the patterns
   dialog.setNameFilters(name_filters(request.filter));
-  if (request.writes) dialog.setDefaultSuffix(from_bytes(request.filter).section('.', -1));
+  dialog.setDefaultSuffix(from_bytes(request.extension));
   if (!request.folder.empty()) dialog.setDirectory(QFile::decodeName(request.folder.c_str()));
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
   return QFile::encodeName(dialog.selectedFiles().constFirst()).toStdString();
