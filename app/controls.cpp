@@ -1,6 +1,8 @@
 #include "app/controls.h"
 
 #include <array>
+#include <string>
+#include <vector>
 
 namespace app {
 namespace {
@@ -10,9 +12,10 @@ using ui::Font;
 using ui::Kind;
 using ui::Place;
 
-constexpr Font kRegular{}, kBold{8.25, true, false}, kItalic{8.25, false, true}, kLarge{9.75, true, false};
+constexpr Font kRegular{}, kBold{0, true, false}, kItalic{0, false, true}, kLarge{9.75, true, false};
 constexpr ui::Color kBlack{0, 0, 0}, kRed{255, 0, 0};
 constexpr bool kShown = true, kHidden = false;
+constexpr int kRowHeight = 240, kEdge = 15;  // boxes above one another share an edge
 
 ControlDef label(const char* name, const char* caption, bool shown, Place place, Font font = kBold,
                  ui::Color color = kBlack) {
@@ -22,6 +25,18 @@ ControlDef label(const char* name, const char* caption, bool shown, Place place,
 
 ControlDef box(Kind kind, const char* name, bool shown, Place place, int label, const char* about = "") {
   return {.name = name, .kind = kind, .shown = shown, .place = place, .label = label, .about = about};
+}
+
+// To the eye: boxes of one height, in a row with the buttons beside them; no label at the edge of a box; the line just
+// beneath the buttons, as wide as all of them.
+void adjust(std::vector<ControlDef>& table) {
+  for (ControlDef& control : table) {
+    control.drawn = control.drawn.width > 0 ? control.drawn : control.place;
+    if (control.kind == Kind::TextBox) control.drawn.height = kRowHeight + kEdge;
+  }
+  table[Label2].drawn.left += 45;
+  table[cboComp].drawn = {3000, 5865, 1455, 285};
+  table[Line1].drawn = {480, 5190, 8295, 0};
 }
 
 ControlDef button(const char* name, const char* caption, bool shown, Place place, Font font) {
@@ -38,7 +53,7 @@ constexpr std::array kRowCaptions{"Stoichiometry of 1st component", "Stoichiomet
                                   "Stoichiometry of 5th component", "Stoichiometry of 6th component",
                                   "Stoichiometry of 7th component", "Stoichiometry of 8th component"};
 
-constexpr int row_top(int i) { return 2760 + 240 * (i - 1); }
+constexpr int row_top(int i) { return 2760 + kRowHeight * (i - 1); }
 
 void add_row_boxes(std::vector<ControlDef>& table, const char* name, int left, int width, const char* about) {
   for (int i = 1; i <= kRows; ++i) {
@@ -81,8 +96,13 @@ std::vector<ControlDef> make_table() {
     t.back().name = "lblStoich(" + std::to_string(i) + ")";
   }
   const ControlDef rest[] = {
-      label("lblMBnote", "* Leave M.B. field blank if the M.B. stoichiometry is equal to the M.A. stocihiometry", kHidden,
-            {3480, 4200, 3375, 615}, kRegular),
+      {.name = "lblMBnote",
+       .caption = "* Leave M.B. field blank if the M.B. stoichiometry is equal to the M.A. stocihiometry",
+       .shown = kHidden,
+       .place = {3480, 4200, 3375, 615},
+       .drawn = {3480, 4230, 3375, 585},
+       .elsewhere = {4200, 1290, 4500, 585},  // no value of a model with M.B. stoichiometries is shown there
+       .wraps = true},
       label("lblIsoterm", "Isotherm model", kHidden, {480, 4080, 2295, 255}),
       box(Kind::ComboBox, "cboIsoterm", kHidden, {480, 4320, 2295, 315}, lblIsoterm),
       box(Kind::TextBox, "txtf50", kHidden, {480, 4320, 1215, 285}, lblIsoterm),
@@ -105,12 +125,13 @@ std::vector<ControlDef> make_table() {
       button("cmdQuit", "Quit", kShown, {600, 6720, 2655, 495}, kLarge),
       button("cmdNewDb", "Save changes to new database", kShown, {4920, 6840, 3855, 375}, kLarge),
       label("Label8", "Remember to save after any change made to a species!", kShown, {3960, 7320, 5415, 255},
-            {8.25, true, true}, kRed),
+            {0, true, true}, kRed),
       menu_item("mnuFileOpen", "Open sorption database"),
       menu_item("mnuFileExit", "Exit"),
   };
   t.insert(t.end(), std::begin(rest), std::end(rest));
   t[lblNameDb].path = true;
+  adjust(t);
 
   int tab = 0;
   const auto next_focus = [&](int control) { t[static_cast<std::size_t>(control)].tab = tab++; };
@@ -128,9 +149,12 @@ std::vector<ControlDef> make_table() {
 const ui::WindowDef& window_def() {
   static const std::vector<ControlDef> table = make_table();
   static const ui::WindowDef def{
+      .program = "kelmar-dbedit",
       .caption = "Sorption / complexation database editor for Kelmar",
       .width = 9165,
       .height = 7950,
+      .row = kRowHeight,
+      .points = 8.25,
       .background = {255, 255, 192},
       .menu = "File",
       .controls = table,

@@ -7,6 +7,10 @@
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
 
 #include "app/frmMaindb.h"
 #include "data.h"
@@ -45,7 +49,7 @@ void shown_list(benchmark::State& state) {
   list.resize(220, 300);
   list.show();
   for (auto _ : state) {
-    list.show_entries(entries, -1);
+    list.show_entries(entries);
     paint(list);
   }
 }

@@ -20,7 +20,7 @@ struct Place {
 };
 
 struct Font {
-  double points = 8.25;
+  double points = 0;  // 0: the window's usual ones
   bool bold = false, italic = false;
 };
 
@@ -35,6 +35,9 @@ struct ControlDef {
   std::string_view caption{};  // a label's, button's or menu item's text at the start
   bool shown = true;           // at the start
   Place place{};
+  Place drawn{};       // where it is drawn, if a little beside its place; no width: there
+  Place elsewhere{};   // where it stands while shown boxes lie over its place; no width: nowhere else
+  bool wraps = false;  // a caption of several lines
   Font font{};
   Color color{};
   int tab = -1;         // position in the focus order; -1: none
@@ -44,8 +47,11 @@ struct ControlDef {
 };
 
 struct WindowDef {
+  std::string_view program{};  // its name in messages on a terminal
   std::string_view caption{};
   int width = 0, height = 0;  // of the client area, in twips
+  int row = 0;                // from one row of boxes to the next, in twips
+  double points = 0;          // of the usual font
   Color background{};
   std::string_view menu{};  // the caption of the one menu, which holds all menu items
   std::span<const ControlDef> controls{};

@@ -2,6 +2,9 @@
 #pragma once
 
 #include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
 
 #include "ui/dialogs.h"
 

@@ -3,9 +3,10 @@
 #pragma once
 
 #include <QMainWindow>
+#include <functional>
 #include <vector>
 
-#include "ui/qt/layout.h"
+#include "ui/layout.h"
 #include "ui/window.h"
 
 class QLineEdit;
@@ -24,35 +25,50 @@ class MainWindow : public QMainWindow {
   // Shows what the form holds. `anew` shows everything, not only what differs.
   void push(bool anew = false);
   // The widget of a control; null for a menu item.
-  QWidget* widget(int control) const { return widgets_[static_cast<std::size_t>(control)]; }
-  QAction* action(int control) const { return actions_[static_cast<std::size_t>(control)]; }
+  QWidget* widget(int control) const { return view(control).widget; }
+  QAction* action(int control) const { return view(control).action; }
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
 
  private:
-  void build(int control);
-  void build_text_box(int control);
-  void build_combo_box(int control);
-  QLineEdit* make_line_edit(int control, QLineEdit* edit);
+  // A control on the screen: what it is made of, as far as it has it.
+  struct View {
+    QWidget* widget = nullptr;
+    QAction* action = nullptr;
+    Caption* caption = nullptr;
+    QLineEdit* edit = nullptr;
+    PickBox* combo = nullptr;
+    EntryList* list = nullptr;
+    std::function<void(const QString&)> set_text = [](const QString&) {};
+  };
+
+  View build(int control);
+  View build_label(int control);
+  View build_line(int control);
+  View build_list(int control);
+  View build_text_box(int control, QLineEdit* edit);
+  View build_combo_box(int control);
   void set_focus_order();
   void arrange();
+  void place(int control);
   void push_control(int control, bool anew);
-  void push_text(int control);
-  void push_tooltips();
-  QString tooltip(int control) const;
+  void name_boxes();
+  QString cut_text(const View& view) const;
   void run(int control);
 
   const ControlDef& def(int control) const { return form_.definition().controls[static_cast<std::size_t>(control)]; }
-  int controls() const { return static_cast<int>(widgets_.size()); }
+  const View& view(int control) const { return views_[static_cast<std::size_t>(control)]; }
+  int controls() const { return static_cast<int>(views_.size()); }
 
   Form& form_;
+  QFont desktop_font_;
   Layout layout_;
   QWidget* area_;
-  int menu_height_ = 0;  // at the start
-  std::vector<QWidget*> widgets_;
-  std::vector<QAction*> actions_;
+  int menu_height_ = 0;   // at the start
+  bool running_ = false;  // a handler runs, perhaps in a message box: no other may begin
+  std::vector<View> views_;
   std::vector<Control> shown_;  // what was pushed last; the entries of a list are with its widget
 };
 

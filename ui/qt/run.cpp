@@ -1,6 +1,5 @@
 #include <QApplication>
 #include <QSettings>
-#include <QTemporaryDir>
 #include <cstdio>
 #include <cstdlib>
 
@@ -11,25 +10,32 @@
 namespace ui {
 namespace {
 
-// The toolkit ends the program by abort() when it finds no display; nothing has been opened by then.
-void end_without_display(QtMsgType type, const QMessageLogContext&, const QString&) {
+// The toolkit ends the program by abort() when it cannot open a window; nothing has been opened by then.
+void end_without_window(QtMsgType type, const QMessageLogContext&, const QString& message) {
+  static QString said;
+  said += message + "\n";
   if (type != QtFatalMsg) return;
-  std::fputs("kelmar-dbedit: the window cannot be opened: there is no display.\n", stderr);
+  bool display = false;
+  for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) display |= qEnvironmentVariableIsSet(name);
+  std::fprintf(stderr, "kelmar-dbedit: the window cannot be opened: %s\n",
+               display ? qPrintable(said.trimmed()) : "there is no display.");
   std::_Exit(1);
 }
 
 }  // namespace
 
 int run(char* program, const MakeForm& make_form) {
-  const auto usual = qInstallMessageHandler(end_without_display);
+  // The program remembers nothing from run to run: for what the toolkit and its file dialog would note in the temporary
+  // folder and in the user's home, there is no folder.
+  constexpr const char* kNowhere = "/dev/null";
+  qputenv("TMPDIR", kNowhere);
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, kNowhere);
+
+  const auto usual = qInstallMessageHandler(end_without_window);
   int argc = 1;  // the program has no command line, also none for the toolkit
   char* argv[] = {program, nullptr};
   const QApplication application(argc, argv);
   qInstallMessageHandler(usual);
-
-  // The toolkit's file dialog notes its state in the user's home; the program remembers nothing from run to run.
-  const QTemporaryDir notes;
-  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, notes.path());
 
   qt::QtDialogs dialogs;
   const auto form = make_form(dialogs);

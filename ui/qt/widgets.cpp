@@ -16,18 +16,11 @@ Caption::Caption(QWidget* parent, bool path) : QLabel(parent), path_(path) {
   setContentsMargins(kLabelIndent, 0, 0, 0);
 }
 
-void Caption::set_covered(bool covered) {
-  if (covered_ == covered) return;
-  covered_ = covered;
-  update();
-}
-
 bool Caption::is_shortened() const {
   return !wordWrap() && fontMetrics().horizontalAdvance(text()) > contentsRect().width();
 }
 
 void Caption::paintEvent(QPaintEvent* event) {
-  if (covered_) return;
   if (!is_shortened()) return QLabel::paintEvent(event);
   QPainter painter(this);
   const auto cut = path_ ? Qt::ElideMiddle : Qt::ElideRight;
@@ -66,62 +59,85 @@ EntryList::EntryList(QWidget* parent) : QListView(parent), model_(this) {
   setUniformItemSizes(true);  // or every row is measured
   setEditTriggers(NoEditTriggers);
   setFrameStyle(QFrame::Box | QFrame::Plain);  // the style's own frame vanishes in part at a scale of 1.5
-  QPalette usual = palette(), frame = usual;
-  frame.setColor(QPalette::WindowText, frame.color(QPalette::Mid));
-  setPalette(frame);
+  QPalette usual = palette();
   usual.setColor(QPalette::WindowText, usual.color(QPalette::WindowText));  // said, lest it be inherited from the list
   verticalScrollBar()->setPalette(usual);
   horizontalScrollBar()->setPalette(usual);
+  show_focus(QPalette::Mid);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
 }
 
-void EntryList::show_entries(const std::vector<std::string>& entries, int selected) {
-  pushing_ = true;
-  model_.set_entries(entries);
-  pushing_ = false;
-  show_selected(selected);
+template <typename Change>
+void EntryList::quietly(Change change) {
+  quiet_ = true;
+  change();
+  quiet_ = false;
+}
+
+void EntryList::show_entries(const std::vector<std::string>& entries) {
+  quietly([&] { model_.set_entries(entries); });
 }
 
 void EntryList::show_selected(int selected) {
-  pushing_ = true;
-  if (selected < 0) {
-    selectionModel()->clear();
-  } else {
+  quietly([&] {
+    if (selected < 0) return selectionModel()->clear();
     setCurrentIndex(model_.index(selected));
     scrollTo(currentIndex());
-  }
-  pushing_ = false;
+  });
 }
 
-// The selection, not the current entry, which the toolkit also moves when the list gets the focus.
+int EntryList::selected() const {
+  const QModelIndexList indexes = selectionModel()->selectedIndexes();
+  return indexes.isEmpty() ? -1 : indexes.front().row();
+}
+
+QItemSelectionModel::SelectionFlags EntryList::selectionCommand(const QModelIndex& index, const QEvent*) const {
+  return index.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
+}
+
+// Not by an event of this list: a screen reader.
 void EntryList::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
   QListView::selectionChanged(selected, deselected);
-  if (pushing_ || selected.isEmpty()) return;
-  changed_ = true;
-  choose(selected.indexes().front().row());
-}
-
-void EntryList::choose(int entry) {
-  // Once the toolkit is done with the event: the handler may ask something and wait for the answer.
-  QMetaObject::invokeMethod(
-      this, [this, entry] { emit chosen(entry); }, Qt::QueuedConnection);
+  if (!quiet_ && !selected.isEmpty()) emit chosen(selected.indexes().front().row());
 }
 
 void EntryList::mousePressEvent(QMouseEvent* event) {
-  changed_ = false;
-  QListView::mousePressEvent(event);
   const QModelIndex pressed = indexAt(event->position().toPoint());
-  if (!changed_ && pressed.isValid() && event->button() == Qt::LeftButton) choose(pressed.row());
+  if (!pressed.isValid() || event->button() != Qt::LeftButton) return;
+  quietly([&] { QListView::mousePressEvent(event); });
+  emit chosen(pressed.row());
 }
 
 void EntryList::keyPressEvent(QKeyEvent* event) {
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if (!enter || !currentIndex().isValid())
-    QListView::keyPressEvent(event);
-  else if (selectionModel()->isSelected(currentIndex()))
-    choose(currentIndex().row());
-  else
-    selectionModel()->select(currentIndex(), QItemSelectionModel::ClearAndSelect);
+  const int before = selected();
+  quietly([&] {
+    if (!enter)
+      QListView::keyPressEvent(event);
+    else if (currentIndex().isValid())
+      selectionModel()->select(currentIndex(), QItemSelectionModel::ClearAndSelect);
+  });
+  if (selected() >= 0 && (enter || selected() != before)) emit chosen(selected());
+}
+
+// The frame shows the focus. The toolkit makes the first entry the current one, from which the first arrow key would go on.
+void EntryList::focusInEvent(QFocusEvent* event) {
+  quietly([&] {
+    QListView::focusInEvent(event);
+    if (selected() < 0) selectionModel()->clearCurrentIndex();
+  });
+  show_focus(QPalette::Highlight);
+}
+
+void EntryList::focusOutEvent(QFocusEvent* event) {
+  QListView::focusOutEvent(event);
+  show_focus(QPalette::Mid);
+}
+
+void EntryList::show_focus(QPalette::ColorRole frame) {
+  QPalette shown = palette();
+  shown.setColor(QPalette::WindowText, shown.color(QPalette::Active, frame));
+  setPalette(shown);
 }
 
 PickBox::PickBox(QWidget* parent) : QComboBox(parent) {
@@ -129,6 +145,7 @@ PickBox::PickBox(QWidget* parent) : QComboBox(parent) {
   setInsertPolicy(NoInsert);
   setCompleter(nullptr);  // what the user types stays what it is
   setFocusPolicy(Qt::StrongFocus);
+  disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);  // which picks the entry that the text equals
 }
 
 void PickBox::show_entries(const std::vector<std::string>& entries) {
@@ -139,11 +156,6 @@ void PickBox::show_entries(const std::vector<std::string>& entries) {
   setEditText(text);
 }
 
-void PickBox::wheelEvent(QWheelEvent* event) {
-  if (hasFocus())
-    QComboBox::wheelEvent(event);
-  else
-    event->ignore();
-}
+void PickBox::wheelEvent(QWheelEvent* event) { event->ignore(); }
 
 }  // namespace ui::qt

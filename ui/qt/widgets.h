@@ -13,13 +13,11 @@ namespace ui::qt {
 
 inline constexpr int kLabelIndent = 3;  // pixels; keeps a label's text from touching what stands left of it
 
-// A label that shows a text too long for it shortened, and whole in its tooltip; or nothing, where boxes lie over it.
+// A label that shows a text too long for it shortened.
 class Caption : public QLabel {
   Q_OBJECT
  public:
   Caption(QWidget* parent, bool path);
-  void set_covered(bool covered);
-  bool is_covered() const { return covered_; }
   bool is_shortened() const;
 
  protected:
@@ -27,7 +25,6 @@ class Caption : public QLabel {
 
  private:
   bool path_;
-  bool covered_ = false;
 };
 
 // Lets only characters of the code page into a text box.
@@ -55,33 +52,40 @@ class EntryModel : public QAbstractListModel {
   std::vector<std::string> entries_;
 };
 
-// A list of which an entry is chosen by mouse, keys, typing its first letters, or a screen reader; the entry chosen
-// already can be chosen again.
+// A list of which an entry is chosen by mouse, keys, typing its first letters, or a screen reader; the entry chosen already
+// can be chosen again. What is chosen is told before the next event, so that no later one overtakes it. A choice is never
+// taken back by the user.
 class EntryList : public QListView {
   Q_OBJECT
  public:
   explicit EntryList(QWidget* parent);
-  void show_entries(const std::vector<std::string>& entries, int selected);
-  void show_selected(int selected);
+  void show_entries(const std::vector<std::string>& entries);
+  void show_selected(int selected);  // -1: none
+  int selected() const;
   const std::vector<std::string>& entries() const { return model_.entries(); }
 
  signals:
   void chosen(int entry);
 
  protected:
+  QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* event) const override;
   void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
   void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent*) override {}  // a drag chooses nothing
   void keyPressEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
 
  private:
-  void choose(int entry);
+  void show_focus(QPalette::ColorRole frame);
+  template <typename Change>
+  void quietly(Change change);
 
   EntryModel model_;
-  bool pushing_ = false;
-  bool changed_ = false;
+  bool quiet_ = false;  // a change of the selection is not told
 };
 
-// A combo box that the wheel does not change while the user scrolls past it.
+// A combo box from which only the list and the arrow keys pick: typing an entry, Enter, or the wheel does not.
 class PickBox : public QComboBox {
   Q_OBJECT
  public:

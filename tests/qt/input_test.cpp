@@ -1,0 +1,178 @@
+// What mouse, keys and screen readers can do to the window, beyond the stories.
+#include <QAccessible>
+#include <QAction>
+#include <QClipboard>
+#include <QToolTip>
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "qt/seat.h"
+
+namespace {
+
+using support::QtSeat;
+
+// A screen reader reaches what a message box shuts off from mouse and keys.
+TEST(Qt, RunsNoHandlerInsideTheMessageBoxOfAnother) {
+  QtSeat qt;
+  qt.load();
+  qt.select(3);
+  const auto press = [&](int control) { qobject_cast<QPushButton*>(qt.window.widget(control))->click(); };
+  int boxes = 0;
+  qt.program.dialogs.told = [&](const std::string&) {
+    ++boxes;
+    qt.list()->setCurrentIndex(qt.list()->model()->index(7, 0));
+    press(app::cmdAddnew);
+    press(app::cmdDelete);
+    qt.window.close();
+    EXPECT_EQ(qt.list()->selected(), 3);
+  };
+  const std::string third = qt.program.Listed()[3], seventh = qt.program.Listed()[7];
+  qt.program.Answer(ui::Answer::Yes);
+  press(app::cmdDelete);
+  EXPECT_EQ(boxes, 1);
+  EXPECT_FALSE(qt.program.form.window().ended);
+  EXPECT_NE(qt.program.Listed()[3], third);
+  EXPECT_EQ(qt.program.Listed()[6], seventh);
+  EXPECT_FALSE(qt.program.Shown(app::cboComp));
+}
+
+TEST(Qt, TypingAnEntryOfAComboBoxPicksNothing) {
+  QtSeat qt;
+  qt.system.add("sorptemp.dat", "freundl.ISO");
+  qt.load();
+  qt.select(2);
+  qt.type(app::txtlogk, "7");
+  qt.type(app::cboIsoterm, "Temkin");
+  QTest::keyClick(qt.edit(app::cboIsoterm), Qt::Key_Return);
+  qt.window.widget(app::txtID)->setFocus();
+  qt.settle();
+  EXPECT_EQ(qt.program.form.state().isoselect, "Freundlich");
+  EXPECT_EQ(qt.program.Text(app::cboIsoterm), "Temkin");
+  EXPECT_EQ(qt.program.Text(app::txtlogk), "7");
+  EXPECT_EQ(qt.program.form.window()[app::lstReactions].selected, 2);
+  QWidget* combo = qt.window.widget(app::cboIsoterm);
+  QWheelEvent wheel({5, 5}, combo->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
+  combo->setFocus();
+  QApplication::sendEvent(combo, &wheel);
+  EXPECT_EQ(qt.program.form.state().isoselect, "Freundlich");
+  QTest::keyClick(combo, Qt::Key_Down);
+  qt.settle();
+  EXPECT_EQ(qt.program.form.state().isoselect, "Extended Freundlich");
+}
+
+TEST(Qt, ListAlwaysShowsTheSelection) {
+  QtSeat qt;
+  qt.system.add("sorptemp.dat", "freundl.ISO");
+  qt.load();
+  QWidget* viewport = qt.list()->viewport();
+  EXPECT_TRUE(qt.list()->hasFocus());
+  const QColor frame = qt.list()->palette().color(QPalette::WindowText);
+  qt.window.widget(app::txtID)->setFocus();
+  EXPECT_NE(qt.list()->palette().color(QPalette::WindowText), frame) << "the focus does not show";
+  qt.list()->setFocus();
+  QTest::keyClick(qt.list(), Qt::Key_Down);
+  qt.settle();
+  EXPECT_EQ(qt.program.form.window()[app::lstReactions].selected, 0);
+  qt.select(2);
+  const std::string shown = qt.state();
+  const QPoint empty(viewport->width() / 2, viewport->height() - 3);
+  const std::function<void()> attempts[] = {
+      [&] { QTest::mouseClick(viewport, Qt::LeftButton, {}, empty); },
+      [&] { QTest::mouseClick(viewport, Qt::LeftButton, Qt::ControlModifier, qt.middle(2)); },
+      [&] { QTest::mouseClick(viewport, Qt::RightButton, {}, qt.middle(4)); },
+      [&] { QTest::mouseClick(viewport, Qt::RightButton, {}, empty); },
+      [&] { QTest::keyClick(qt.list(), Qt::Key_Space, Qt::ControlModifier); },
+      [&] { QTest::keyClick(qt.list(), Qt::Key_A, Qt::ControlModifier); },
+      [&] {
+        QTest::mousePress(viewport, Qt::LeftButton, {}, qt.middle(2));
+        QTest::mouseMove(viewport, qt.middle(5));
+        QTest::mouseRelease(viewport, Qt::LeftButton, {}, qt.middle(5));
+      },
+  };
+  for (const auto& attempt : attempts) {
+    attempt();
+    qt.settle();
+    EXPECT_EQ(qt.state(), shown) << &attempt - attempts;
+  }
+  // Chosen again, it is shown again.
+  qt.type(app::txtlogk, "7");
+  QTest::keyClick(qt.list(), Qt::Key_Return);
+  qt.settle();
+  EXPECT_EQ(qt.state(), shown);
+  QTest::mouseClick(viewport, Qt::LeftButton, Qt::ControlModifier, qt.middle(4));
+  qt.settle();
+  EXPECT_EQ(qt.program.form.window()[app::lstReactions].selected, 4);
+}
+
+TEST(Qt, ShowsNumbersFromTheirFirstDigit) {
+  QtSeat qt;
+  qt.load();
+  qt.select(2);
+  QLineEdit* edit = qt.edit(app::txtCharge);
+  EXPECT_EQ(edit->cursorPosition(), 0);
+  qt.type(app::txtCharge, "1.333333333333333333333333333");
+  EXPECT_GT(edit->cursorPosition(), 0);
+  qt.window.widget(app::txtID)->setFocus();
+  EXPECT_EQ(edit->cursorPosition(), 0);
+}
+
+TEST(Qt, EnterPressesTheFocusedButton) {
+  QtSeat qt;
+  qt.load();
+  QWidget* button = qt.window.widget(app::cmdAddnew);
+  button->setFocus();
+  QTest::keyClick(button, Qt::Key_Return);
+  qt.settle();
+  EXPECT_TRUE(qt.program.Shown(app::cboComp));
+}
+
+TEST(Qt, KeysAloneReachEverything) {
+  QtSeat qt;
+  qt.load();
+  QWidget* list = qt.window.widget(app::lstReactions);
+  EXPECT_TRUE(list->hasFocus());
+  QTest::keyClicks(list, "Fe(");
+  qt.settle();
+  EXPECT_EQ(qt.program.Text(app::txtName), "Fe(OH)3-");
+  QTest::keyClick(list, Qt::Key_Down);
+  qt.settle();
+  EXPECT_EQ(qt.program.Text(app::txtName), "FeSO4+");
+  // The order of the tabulator key is that of the table, over the controls that are shown.
+  std::vector<std::string> visited{"lstReactions"};
+  for (int i = 0; i < app::kControls; ++i) {
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    for (int j = 0; j < app::kControls; ++j)
+      if (qt.window.widget(j) == QApplication::focusWidget())
+        visited.push_back(app::window_def().controls[static_cast<std::size_t>(j)].name);
+    if (visited.back() == "lstReactions") break;
+  }
+  const std::vector<std::string> expected{"lstReactions", "txtID",        "txtlogk",     "txtdhr",       "txtCharge",
+                                          "txtNocomp",    "txtStoich(1)", "txtComp(1)",  "txtStoich(2)", "txtComp(2)",
+                                          "txtName",      "cmdAddnew",    "cmdDelete",   "cmdCompdb",    "cmdSavedb",
+                                          "cmdNewDb",     "cmdQuit",      "lstReactions"};
+  EXPECT_EQ(visited, expected);
+}
+
+TEST(Qt, TakesCharactersOfTheCodePageOnly) {
+  QtSeat qt;
+  qt.load();
+  auto* edit = qobject_cast<QLineEdit*>(qt.window.widget(app::txtName));
+  edit->clear();
+  edit->setFocus();
+  QApplication::clipboard()->setText(QString::fromUtf8("a\u20ac\u0416b\u0081\u00e9"));
+  edit->paste();
+  EXPECT_EQ(qt.program.Text(app::txtName),
+            "a\x80"
+            "b\x81\xe9");
+  EXPECT_TRUE(QToolTip::isVisible());
+  for (int byte = 1; byte < 256; ++byte) {
+    const std::string text(1, static_cast<char>(byte));
+    const bool line_end = byte == '\r' || byte == '\n';
+    EXPECT_EQ(ui::qt::to_bytes(ui::qt::from_bytes(text)), line_end ? "" : text) << byte;
+  }
+}
+
+}  // namespace

@@ -1,0 +1,55 @@
+#include "ui/layout.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace ui {
+namespace {
+
+constexpr double kTwipsPerPixel = 15;  // at 96 dots an inch
+constexpr double kRowMargin = 6;       // pixels above and below the text of a row
+constexpr double kButtonMargin = 18;   // pixels beside the text of a button
+constexpr double kLabelMargin = 4;
+constexpr int kTouching = 45;  // twips by which a box may overlap a label without covering it
+
+// Pixels that the control's caption takes; 0 where any width will do.
+double width_needed(const ControlDef& control, const Measure& measure) {
+  if ((control.kind != Kind::Label && control.kind != Kind::Button) || control.wraps || control.caption.empty()) return 0;
+  return measure.width(control.font, control.caption) + (control.kind == Kind::Button ? kButtonMargin : kLabelMargin);
+}
+
+bool covers(const Place& box, const Place& label) {
+  return box.left < label.left + label.width && label.left < box.left + box.width &&
+         box.top + kTouching < label.top + label.height && label.top + kTouching < box.top + box.height;
+}
+
+int scaled(int twips, double factor) { return static_cast<int>(std::lround(twips * factor)); }
+
+}  // namespace
+
+Layout::Layout(const WindowDef& def, const Measure& measure, Size available) : def_(def) {
+  double across = 1;
+  for (const ControlDef& control : def.controls) {
+    const int width = std::min(control.place.width, def.width - control.place.left);
+    if (width > 0) across = std::max(across, width_needed(control, measure) / (width / kTwipsPerPixel));
+  }
+  const double down = std::max(1., (measure.line_height + kRowMargin) / (def.row / kTwipsPerPixel));
+  const double width = def.width / kTwipsPerPixel * across, height = def.height / kTwipsPerPixel * down;
+  fitting_ = std::min({1., available.width / width, available.height / height});
+  start_ = {std::ceil(width * fitting_), std::ceil(height * fitting_)};
+}
+
+double Layout::growth(Size area) const { return std::min(area.width / start_.width, area.height / start_.height); }
+
+Place Layout::place(int control, const Window& window, Size area) const {
+  const ControlDef& def = def_.controls[static_cast<std::size_t>(control)];
+  Place place = def.drawn.width > 0 ? def.drawn : def.place;
+  for (std::size_t i = 0; i < def_.controls.size() && def.elsewhere.width > 0; ++i)
+    if (def_.controls[i].kind == Kind::TextBox && window.controls[i].shown && covers(def_.controls[i].place, place))
+      place = def.elsewhere;
+  const double across = start_.width * growth(area) / def_.width, down = start_.height * growth(area) / def_.height;
+  return {scaled(place.left, across), scaled(place.top, down), scaled(place.width, across),
+          std::max(1, scaled(place.height, down))};
+}
+
+}  // namespace ui

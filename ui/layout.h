@@ -1,0 +1,42 @@
+// Where the tabled places lie on a screen, whatever toolkit draws them. As with dialog units, the two directions have a
+// scale of their own, so that every caption is whole in the desktop's font, whose letters may be wider than those for which
+// the table was made. A larger window shows all of it larger, in the same proportions.
+#pragma once
+
+#include <functional>
+#include <string_view>
+
+#include "ui/window.h"
+
+namespace ui {
+
+struct Size {
+  double width = 0, height = 0;  // in pixels
+};
+
+// How the desktop's font comes out, in pixels, where a font of WindowDef::points has the desktop's usual size.
+struct Measure {
+  std::function<double(const Font&, std::string_view)> width;
+  double line_height = 0;  // of the usual font
+};
+
+class Layout {
+ public:
+  // The window starts no larger than `available`.
+  Layout(const WindowDef& def, const Measure& measure, Size available);
+
+  Size start() const { return start_; }
+  // For a client area of this size: how much larger or smaller fonts are than the desktop's.
+  double font_factor(Size area) const { return fitting_ * growth(area); }
+  // The same for a control's place, in pixels; `window` tells which boxes are shown.
+  Place place(int control, const Window& window, Size area) const;
+
+ private:
+  double growth(Size area) const;  // since the start
+
+  const WindowDef& def_;
+  double fitting_;
+  Size start_;
+};
+
+}  // namespace ui
