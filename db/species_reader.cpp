@@ -42,7 +42,9 @@ LeadingFields SpeciesReader::read_leading(Leading leading) {
     if (leading.blm) {
       require(fields);
       const auto critical_f = fields[2].number();
-      if (!critical_f) refuse("the critical f value is \"" + std::string(fields[2].text) + "\", not a number. Mend the file with a text editor");
+      if (!critical_f)
+        refuse("the critical f value is \"" + std::string(fields[2].text) +
+               "\", not a number. Mend the file with a text editor");
       read.blm = {std::string(fields[0].text), std::string(fields[1].text), *critical_f};
     }
     return read;

@@ -3,10 +3,10 @@
 
 #include <gtest/gtest.h>
 
-#include <optional>
-#include <system_error>
 #include <cstddef>
+#include <optional>
 #include <string>
+#include <system_error>
 
 #include "support/memory_system.h"
 #include "support/watched_system.h"
@@ -170,18 +170,18 @@ TEST_F(Replace, SaysWhatFailedAndWhere) {
       {Call::Read, 1, "cannot read back dbnamep.mdb"},
       {Call::Rename, 1, "cannot replace /kelmar/x.mdb"},
   };
-  for (const auto& [call, nth, message] : rows) {
+  for (const auto& row : rows) {
     system.add("dbnamep.mdb", "a leftover");
     support::WatchedSystem watched(system);
     watched.before = [&, made = 0](const support::CallInfo& info) mutable -> std::optional<support::Instead> {
-      if (info.call != call || ++made != nth) return std::nullopt;
+      if (info.call != row.call || ++made != row.nth) return std::nullopt;
       return support::Instead{make_error_code(std::errc::io_error)};
     };
     try {
       (void)file::Replacement(watched, "dbnamep.mdb", "x.mdb", kSpared).commit("new");
-      ADD_FAILURE() << message;
+      ADD_FAILURE() << row.message;
     } catch (const file::Error& error) {
-      EXPECT_EQ(error.what(), std::string(message) + ": Input/output error.");
+      EXPECT_EQ(error.what(), std::string(row.message) + ": Input/output error.");
     }
     EXPECT_EQ(system.content("x.mdb"), "old content");
     if (system.has("dbnamep.mdb")) system.remove("dbnamep.mdb");

@@ -49,7 +49,7 @@ std::string changes(const std::map<std::string, std::string>& before, const std:
     all += "file " + path.substr(path.rfind('/') + 1) + "\n";
     auto was = before.count(path) > 0 ? lines_of(before.at(path)) : std::vector<std::string>(), is = lines_of(content);
     std::sort(was.begin(), was.end());
-    for (std::string line : is) {
+    for (const std::string& line : is) {
       if (const auto at = std::lower_bound(was.begin(), was.end(), line); at != was.end() && *at == line) {
         was.erase(at);
         continue;

@@ -1,10 +1,10 @@
 // What the window does beyond single rules: stories on files in memory.
 #include <gtest/gtest.h>
 
-#include <optional>
-#include <system_error>
 #include <cstddef>
+#include <optional>
 #include <string>
+#include <system_error>
 #include <vector>
 
 #include "db/rewrite.h"

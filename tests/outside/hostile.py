@@ -39,8 +39,8 @@ for what, content in CONTENTS.items():
         with Folder(content, name=name) as folder:
             status, lines, _ = folder.play(STORY, memory=MEMORY)
             check("%s as %s" % (what, name), folder, status, None)
-            ends_at_once = content.startswith(b"\r\n")  # empty fields are an end marker, and what follows one is not kept
-            if len(content) > 100_000_000 and not ends_at_once and folder.read(name) != content:
+            blank = not content.strip(b" \r\n")  # is as good as no content
+            if len(content) > 100_000_000 and not blank and folder.read(name) != content:
                 fail("%s as %s: the file was changed" % (what, name))
     with Folder() as folder:
         folder.write("comp.mdb", content)

@@ -34,8 +34,7 @@ void Player::play(const Event& event) {
 std::string Player::state() { return state_block(form_.window(), form_.state()); }
 
 void Player::tell(const Event& event, Outcome outcome) {
-  if (outcome == Outcome::Hidden)
-    say_("hidden " + app::window_def().controls[static_cast<std::size_t>(event.control)].name);
+  if (outcome == Outcome::Hidden) say_("hidden " + app::window_def().controls[static_cast<std::size_t>(event.control)].name);
   if (outcome == Outcome::NoEntry) say_("no entry " + std::to_string(event.entry));
 }
 
