@@ -95,9 +95,8 @@ std::string frmMaindb::take_hand_over(const std::string& folder, const std::stri
 }
 
 void frmMaindb::open_database(std::string path) {
-  state_.open.kind = db::kind_of(path);
+  state_.open.kind = state_.open.content = db::kind_of(path);
   state_.open.path = std::move(path);
-  state_.open.misplaced = false;
   show({lblNameDb});
   set(lblNameDb, state_.open.path);
   if (!state_.open.cdbfile() || db::is_donnica(state_.open.path)) return;
@@ -113,14 +112,16 @@ void frmMaindb::Listfill() {
   set(lbldhr, "dHr (kJ/mol)");
   db::Listing listing = db::list_species(system_, state_.open);
   if (!listing.opened) return;
-  state_.open.mbfields = false;
   const db::Kind by_name = db::kind_of(state_.open.path);
-  if (by_name != db::Kind::Isotherm) {
+  const bool isotherm = by_name == db::Kind::Isotherm;
+  // An isotherm database keeps its M.B. stoichiometries in use under another name too, or a change would lose them.
+  if (isotherm || state_.open.kind != db::Kind::Isotherm) state_.open.mbfields = false;
+  if (!isotherm && state_.open.kind != db::Kind::Isotherm) {
     set(lblLogk, "log K");
     hide({lblMA, lblMB, lblMBnote});
   }
   if (!listing.led && db::leading_of(by_name).model) return;
-  if (by_name == db::Kind::Isotherm) {
+  if (isotherm) {
     show_model(*listing.leading.model);
   } else if (state_.open.blifile()) {
     show({txtf50, lblIsoterm, lblKsel, txtKsel});

@@ -42,9 +42,9 @@ void frmMaindb::cmdNewDb_Click() {
     const file::Spared components = db::spare_components(state_.compdb);
     file::refuse_spared(system_, *chosen, components);
     const std::string old_dbname = std::exchange(state_.open.path, *chosen);
-    const bool misplaced = std::exchange(state_.open.misplaced, true);  // until it is copied
+    const db::Kind content = std::exchange(state_.open.content, db::kind_of(*chosen));  // until it is copied
     const std::string warning = file::copy_over(system_, old_dbname, *chosen, components);
-    state_.open.misplaced = misplaced;
+    state_.open.content = content;
     set(lblNameDb, *chosen);
     savedb();
     if (!warning.empty()) refuse(warning);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
 #include "db/kind.h"
 
@@ -14,13 +15,19 @@ struct Database {
   Kind kind = Kind::Complexation;
   std::string isomodel{};  // the isotherm model in force, or "NICA-Donnan"
   bool mbfields = false;   // M.B. stoichiometries are in use
-  // The database could not be copied to this path: what lies there, if anything, is another one, of the kind that its name
-  // says.
-  bool misplaced = false;
+  // What lies at the path is of this kind. Another than the one held where the database could not be copied to a new path: then
+  // another file lies there, if any, or a copy of that one.
+  Kind content = Kind::Complexation;
 
   bool blifile() const { return kind == Kind::Blm; }
   bool cdbfile() const { return kind == Kind::Counterion; }
 };
+
+// As it is when it has just been opened.
+inline Database database_at(std::string path) {
+  const Kind kind = kind_of(path);
+  return {.path = std::move(path), .kind = kind, .content = kind};
+}
 
 // Which fields stand before the first record: the isotherm model (or "NICA-Donnan"); two texts and the critical f value.
 struct Leading {

@@ -10,21 +10,28 @@ Rewrite::Rewrite(file::System& system, const Database& database, const std::stri
     : replacement_(system, kTemporaryFile, database.path, spare_components(compdb)),
       reader_(system, database.path),
       path_(database.path) {
-  if (database.misplaced && kind_of(path_) != database.kind)
+  if (database.content != database.kind)
     throw file::Refusal(path_ +
                         " is another database of another kind: the one that was open could not be copied there. Open " +
                         "the one or the other with the File menu.");
   constexpr std::size_t kGrowth = 4096;  // room for one more species
   out_.reserve(std::min(replacement_.old_size(), file::kLargestDatabase) + kGrowth);
   LeadingFields fields = reader_.read_leading(leading_of(database.kind));
-  if (fields.model && !leading.model.empty()) fields.model = leading.model;
+  no_model_ = fields.model_is_empty;
+  if (fields.model && !leading.model.empty()) {
+    fields.model = leading.model;
+    fields.model_is_empty = false;
+  }
   if (fields.blm) fields.blm->critical_f = leading.critical_f;
   append_leading(out_, fields);
 }
 
 bool Rewrite::keep_until(std::optional<std::string_view> name) {
   while (const Record* record = reader_.next()) {
-    ++old_species_;
+    if (++old_species_ == 1 && no_model_ && record->head[kId].type() == FieldType::Text)
+      reader_.refuse(
+          "an empty line or field stands in the place of the model, and a text in that of the ID number. Nothing was changed. "
+          "Remove the empty line with a text editor");
     if (name && record->name() == *name) return true;
     append_record(out_, *record);
     count();

@@ -48,6 +48,7 @@ class Rewrite {
   SpeciesReader reader_;
   std::string path_;
   std::string out_;
+  bool no_model_ = false;  // its place is empty
   int old_species_ = 0, species_ = 0;
 };
 

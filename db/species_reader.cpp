@@ -5,14 +5,13 @@
 #include <string_view>
 
 namespace db {
-
 std::string SpeciesReader::located_text(const std::string& reason) const {
   std::string where = fields_.path();
   if (records_ == 0) {
     where += ", before the first record";
   } else {
     where += ", record " + std::to_string(records_);
-    if (end_ != End::Empty && !record_.name().empty()) where.append(" (").append(record_.name()).append(")");
+    if (record_.head[kId].type() != FieldType::Empty && !record_.name().empty()) where.append(" (").append(record_.name()).append(")");
   }
   return where + ": " + reason + ".";
 }
@@ -38,6 +37,7 @@ LeadingFields SpeciesReader::read_leading(Leading leading) {
     if (leading.model) {
       require(std::span(fields).first(1));
       read.model = fields[0].text;
+      read.model_is_empty = fields[0].type() == FieldType::Empty;
     }
     if (leading.blm) {
       require(fields);
@@ -56,7 +56,7 @@ const Record* SpeciesReader::next() {
   if (end_ == End::None && records_ == kMaxRecords) end_ = End::Limit;
   if (end_ != End::None) return nullptr;
   ++records_;
-  record_.head[kName] = {};
+  record_.head[kId] = record_.head[kName] = {};
   return located([this] { return read_record(); });
 }
 
@@ -77,9 +77,15 @@ bool SpeciesReader::hides_more() {
 }
 
 const Record* SpeciesReader::read_record() {
-  require(record_.head);
-  if (record_.head[kId].is_zero()) {
-    end_ = record_.head[kId].text.empty() ? End::Empty : End::Marker;
+  const bool complete = fields_.next(record_.head);
+  const Field& id = record_.head[kId];
+  if (!complete && id.type() == FieldType::Empty)
+    refuse(
+        "an empty line or field begins the record, and the file ends inside it; in a rewrite what stands there would be lost. "
+        "Remove the empty line with a text editor");
+  if (!complete) throw FieldError("the file ends inside the record");
+  if (id.is_zero()) {
+    end_ = id.text.empty() ? End::Empty : End::Marker;
     return nullptr;
   }
   const double components = number(record_.head[kComponents], "the number of components");

@@ -51,6 +51,7 @@ struct BlmFields {
 
 struct LeadingFields {
   std::optional<std::string> model;
+  bool model_is_empty = false;  // an empty line or field, not an empty text
   std::optional<BlmFields> blm;
 };
 

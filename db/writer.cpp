@@ -80,7 +80,10 @@ void append_record(std::string& out, const Record& record) {
 }
 
 void append_leading(std::string& out, const LeadingFields& fields) {
-  if (fields.model) LineWriter(out).text(*fields.model).end();
+  if (fields.model && fields.model_is_empty)
+    LineWriter(out).empty().end();
+  else if (fields.model)
+    LineWriter(out).text(*fields.model).end();
   if (!fields.blm) return;
   LineWriter(out).text(fields.blm->description).end();
   LineWriter(out).text(fields.blm->label).number(fields.blm->critical_f).end();

@@ -2,6 +2,7 @@
 
 #include "db/components.h"
 #include "db/format.h"
+#include "edit/marks.h"
 
 namespace edit {
 namespace {
@@ -30,7 +31,7 @@ Choices component_choices(file::System& system, const std::string& compdb, std::
     for (db::Component component; reader.next(component);) {
       const auto number = component.number.number();
       if (number && is_offered(*number, isomodel, cdbfile))
-        choices.names.emplace_back(db::site_name(*number).value_or(component.name.text));
+        choices.names.push_back(shown_name(db::site_name(*number).value_or(component.name.text), *number));
     }
   } catch (const file::Error& error) {
     choices = {{},

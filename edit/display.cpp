@@ -1,6 +1,8 @@
 #include "edit/display.h"
 
 #include <algorithm>
+
+#include "edit/marks.h"
 #include <string_view>
 #include <utility>
 
@@ -81,7 +83,7 @@ class Display {
       if (is_empty(field)) {
         row.comp = "#";
       } else {
-        row.comp = found.names[found_at].value_or("#" + db::format_number(compno[found_at]));
+        row.comp = shown_name(found.names[found_at].value_or("#"), compno[found_at]);
         ++found_at;
       }
       if (database_.mbfields) row.mbstoich = mb_text(field);

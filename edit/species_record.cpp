@@ -6,6 +6,7 @@
 
 #include "db/text.h"
 #include "db/writer.h"
+#include "edit/marks.h"
 #include "edit/values.h"
 
 namespace edit {
@@ -45,13 +46,10 @@ std::vector<std::optional<double>> numbers_of(std::span<const Row> rows, file::S
   std::vector<std::optional<double>> numbers;
   for (const Row& row : rows) {
     const auto name = db::trimmed(row.comp);
-    if (const auto site = db::site_number(name)) {
-      numbers.push_back(site);
-    } else if (const auto at = found.find(name); at != found.end()) {
-      numbers.push_back(at->second.value);
-    } else {
-      numbers.push_back(name.starts_with('#') ? db::parse_number(name.substr(1)) : std::nullopt);
-    }
+    if (const auto at = found.find(name); is_mark(name))
+      numbers.push_back(number_of_mark(name));
+    else
+      numbers.push_back(at != found.end() ? at->second.value : db::site_number(name));
   }
   return numbers;
 }

@@ -89,7 +89,7 @@ class PosixSystem final : public System {
     const int result = follow == Follow::Links ? ::stat(path.c_str(), &s) : ::lstat(path.c_str(), &s);
     if (result != 0) {
       status = {};
-      return errno == ENOENT ? std::error_code() : last_error();
+      return errno == ENOENT || errno == ENOTDIR ? std::error_code() : last_error();
     }
     status = from_stat(s);
     status.writable = ::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0;

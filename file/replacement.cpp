@@ -1,5 +1,7 @@
 #include "file/replacement.h"
 
+#include <filesystem>
+
 #include <cstdint>
 #include <system_error>
 #include <utility>
@@ -19,7 +21,14 @@ void refuse_spared(System& system, const std::string& target, const Spared& spar
   Status ours, theirs;
   for (const auto& [path, status] : {std::pair(&target, &ours), std::pair(&spared.path, &theirs)})
     if (const auto error = system.status(*path, Follow::Links, *status)) throw Error(failure("look at", *path, error));
-  if (ours.same_file(theirs))
+  bool same = ours.same_file(theirs);
+  if (ours.type == Type::Missing && theirs.type == Type::Missing) {
+    std::string folder;
+    if (const auto error = system.current_folder(folder)) throw Error(failure("find", target, error));
+    const auto place = [&](const std::string& path) { return (std::filesystem::path(folder) / path).lexically_normal(); };
+    same = place(target) == place(spared.path);
+  }
+  if (same)
     throw Refusal(target + " is " + spared.what + ", which is never changed. Choose another file for one of the two.");
 }
 

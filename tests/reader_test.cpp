@@ -88,7 +88,7 @@ TEST(Kind, IsToldByTheEndOfThePath) {
 std::string rewritten(const std::string& content, const std::string& name = "x.mdb") {
   MemorySystem system;
   system.add(name, content);
-  const db::Database open{.path = name, .kind = db::kind_of(name)};
+  const db::Database open = db::database_at(name);
   try {
     db::Rewrite rewrite(system, open, "comp.mdb", {.model = "", .critical_f = .5});
     EXPECT_FALSE(rewrite.keep_until(std::nullopt));
@@ -137,6 +137,8 @@ TEST(Rewrite, KeepsTypesAndGivesNumbersOneForm) {
     EXPECT_EQ(rewritten(after), after) << "not stable: " << before;
   }
   EXPECT_EQ(rewritten("\"Temkin\"\n" + marker, "x.iso"), "\"Temkin\"\r\n" + support::kTrailer);
+  EXPECT_EQ(rewritten("\n" + one + marker, "x.iso"), "\r\n" + one + support::kTrailer);
+  EXPECT_EQ(rewritten("\"\"\n" + one + marker, "x.iso"), "\"\"\r\n" + one + support::kTrailer);
   EXPECT_EQ(rewritten("\xEF\xBB\xBFtext,\"more\", 0.25\n" + marker, "x.bli"),
             "\"text\"\r\n\"more\",.5\r\n" + support::kTrailer);
 }
@@ -150,7 +152,9 @@ TEST(Rewrite, SaysWhatIsWrongAndWhere) {
     std::string content, message;
   } rows[] = {
       {first + "2,b,0", "x.mdb, record 2 (b): the file ends inside the record."},
-      {first + "\r\n2", "x.mdb, record 2 (2): the file ends inside the record."},
+      {first + "\r\n2",
+       "x.mdb, record 2: an empty line or field begins the record, and the file ends inside it; in a "
+       "rewrite what stands there would be lost. Remove the empty line with a text editor."},
       {first + "\r\n2,b,0,0,0,0,0,0,0,0,0,0\r\n", "x.mdb, record 2: " + hidden},
       {first + std::string(12, ',') + support::kTrailer + "x", "x.mdb, record 2: " + hidden},
       {first + std::string(12, ',') + "\"open", "x.mdb, record 2: " + hidden},
@@ -169,6 +173,11 @@ TEST(Rewrite, SaysWhatIsWrongAndWhere) {
   EXPECT_EQ(rewritten("a,b,c\n", "x.bli"),
             "x.bli, before the first record: the critical f value is \"c\", not a number. Mend the file with "
             "a text editor.");
+  for (const char* name : {"x.iso", "x.nic"})
+    EXPECT_EQ(rewritten("\r\n\"NICA-Donnan\"\r\n" + first, name),
+              std::string(name) +
+                  ", record 1 (1): an empty line or field stands in the place of the model, and a text in that of the ID "
+                  "number. Nothing was changed. Remove the empty line with a text editor.");
   EXPECT_EQ(rewritten("", "x.iso"), "x.iso, before the first record: the file ends too early.");
 }
 

@@ -83,8 +83,13 @@ TEST_F(Story, StartUpWithoutHandOverFiles) {
   system.add("dabase.txt", "C:");
   second.form.load();
   EXPECT_FALSE(second.form.window().ended);
-  EXPECT_TRUE(second.Shown(lblNameDb));
   EXPECT_TRUE(second.told.empty());
+  second.form.window()[lstReactions].entries = {"CuX"};
+  second.Select("CuX");
+  EXPECT_EQ(second.LastBox(),
+            "[The species cannot be shown: cannot open a file without a name: No such file or directory. Mend the file with a "
+            "text editor, or open another one.]");
+  EXPECT_TRUE(second.Shown(lblNameDb));
 }
 
 TEST_F(Story, StartUpInAFolderThatCannotBeUsed) {
@@ -319,6 +324,18 @@ TEST(Kinds, AreHeldUnderEveryName) {
   }
 }
 
+TEST_F(Story, IsothermDatabaseUnderAnotherNameKeepsItsStoichiometries) {
+  const std::string content =
+      "\"Freundlich\"\r\n" + lines({"501,\"CuX\",0,1.5,0,0,2,0,0,0,0,101", "1,231", "1", ".5,231"}) + kTrailer;
+  Start("x.iso", content);
+  program.Select("CuX");
+  program.Choose("y.nic");
+  program.Click(cmdNewDb);
+  program.Select("CuX");
+  program.Save();
+  EXPECT_EQ(system.content("y.nic"), content);
+}
+
 TEST_F(Story, SaveWithoutASelectionChangesNoSpecies) {
   const std::string nameless = lines({"502,\"\",0,2,0,0,2,0,0,0,0,0"});
   Start("x.iso", "\"Langmuir\"\r\n" + species("501", "CuX") + nameless + kTrailer);
@@ -348,6 +365,12 @@ TEST_F(Story, ComponentDatabaseIsNeverWritten) {
     EXPECT_EQ(program.LastBox(), refusal(path));
     EXPECT_EQ(program.Text(lblNameDb), "x.mdb");
   }
+  program.Choose("missing.mdb");
+  program.Click(cmdCompdb);
+  program.Choose("/kelmar/./missing.mdb");
+  program.Click(cmdNewDb);
+  EXPECT_EQ(program.LastBox(), refusal("/kelmar/./missing.mdb"));
+  EXPECT_EQ(program.Text(lblNameDb), "x.mdb");
   program.Choose("x.mdb");
   program.Click(cmdCompdb);
   program.Save();
@@ -383,6 +406,20 @@ TEST_F(Story, WhatFollowsAnEmptyLineIsNotDropped) {
   EXPECT_EQ(program.LastBox(), "[new.iso, " + refusal);
   EXPECT_EQ(system.content("x.mdb"), content);
   EXPECT_EQ(system.content("new.iso"), content);
+}
+
+// A component may bear a name that means a number without a name.
+TEST_F(Story, MarkOfANumberAlwaysMeansTheNumber) {
+  system.add("comp.mdb", lines({"77,\"#\",0,0,0,0", "78,\"#5\",0,0,0,0", "79,\"#x\",0,0,0,0"}));
+  const std::string content = lines({"501,\"CuX\",0,1.5,0,0,2,0,0,0,0,5", "1,,2,5,3,77,4,78,5,79"}) + kTrailer;
+  Start("x.mdb", content);
+  program.Select("CuX");
+  const char* const shown[] = {"#", "#5", "#77", "#78", "#x"};
+  for (int i = 1; i <= 5; ++i) EXPECT_EQ(program.Text(txtComp(i)), shown[i - 1]);
+  program.Save();
+  EXPECT_EQ(system.content("x.mdb"), content);
+  program.Click(cmdAddnew);
+  EXPECT_EQ(program.form.window()[cboComp].entries, (std::vector<std::string>{"#77", "#78", "#x", "H2O"}));
 }
 
 TEST_F(Story, ValueThatIsNotShownMakesNoDisplayFail) {
@@ -442,10 +479,12 @@ TEST_F(Story, SavingToANewDatabase) {
       "the File menu.]";
   program.Save();
   EXPECT_EQ(program.LastBox(), "[/nowhere/x.iso" + another);
-  program.Choose("copy.nic");
-  program.Click(cmdNewDb);
-  EXPECT_EQ(program.LastBox(), "[copy.nic" + another);
-  EXPECT_EQ(system.content("copy.nic"), system.content("/nowhere/x.iso"));
+  for (const std::string copy : {"copy.nic", "copy.mdb"}) {
+    program.Choose(copy);
+    program.Click(cmdNewDb);
+    EXPECT_EQ(program.LastBox(), "[" + copy + another);
+    EXPECT_EQ(system.content(copy), system.content("/nowhere/x.iso"));
+  }
   system.add("locked.mdb", "old");
   system.at("locked.mdb").writable = false;
   program.Choose("new.mdb");

@@ -145,10 +145,6 @@ MainWindow::View MainWindow::build_text_box(int control, QLineEdit* edit) {
   connect(edit, &QLineEdit::textEdited, this, [this, control](const QString& text) {
     form_.window()[control].text = shown_[static_cast<std::size_t>(control)].text = to_bytes(text);
   });
-  // A text is seen from its beginning when it is set, and when the user is done with it.
-  connect(edit, &QLineEdit::editingFinished, this, [edit] {
-    if (!edit->hasFocus()) edit->setCursorPosition(0);
-  });
   edit->installEventFilter(this);
   return {.widget = edit, .edit = edit, .set_text = [edit](const QString& text) {
             edit->setText(text);
@@ -205,6 +201,10 @@ void MainWindow::place(int control) {
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
   if (watched == area_ && event->type() == QEvent::Resize) arrange();
+  // A text is seen from its beginning when it is set, and when the user has left it (not for its own menu).
+  if (event->type() == QEvent::FocusOut && static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason)
+    for (const View& view : views_)
+      if (watched == view.widget && view.edit != nullptr) view.edit->setCursorPosition(0);
   if (event->type() == QEvent::ToolTip) {
     for (const View& view : views_) {
       if (watched != view.widget && watched != view.edit) continue;
