@@ -40,6 +40,16 @@ frmMaindb::frmMaindb(ui::Dialogs& dialogs, file::System& system) : dialogs_(dial
 }
 
 void frmMaindb::click(int control) {
+  try {
+    run_handler(control);
+  } catch (const std::bad_alloc&) {
+    state_.suggestrun = false;
+    refuse(
+        "There is not enough memory to go on. The database holds the whole change or nothing of it: open it again and look.");
+  }
+}
+
+void frmMaindb::run_handler(int control) {
   switch (control) {
     case lstReactions: return lstReactions_Click();
     case cboIsoterm: return cboIsoterm_Click();
@@ -69,7 +79,7 @@ void frmMaindb::Form_Load() {
       throw file::Error("the folder cannot be entered: " + error.message() + ".");
     drive = first_field(system_, "dabase.txt");
   } catch (const file::Error& error) {
-    refuse("The editor cannot start" + (folder.empty() ? "" : " in " + folder) + ": " + error.what() +
+    refuse("The editor cannot start" + (folder.empty() ? "" : " in " + file::named(folder)) + ": " + error.what() +
            " Start it from Kelmar, in Kelmar's folder.");
     window_.ended = true;
     window_.status = 1;

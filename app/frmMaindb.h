@@ -41,6 +41,8 @@ class frmMaindb final : public ui::Form {
   void click(int control) override;
 
  private:
+  void run_handler(int control);
+
   // Start-up and the ways out (frmMaindb.cpp).
   void Form_Load();
   std::string take_hand_over(const std::string& folder, const std::string& drive);

@@ -43,11 +43,11 @@ void frmMaindb::cmdNewDb_Click() {
     file::refuse_spared(system_, *chosen, components);
     const std::string old_dbname = std::exchange(state_.open.path, *chosen);
     const db::Kind content = std::exchange(state_.open.content, db::kind_of(*chosen));  // until it is copied
-    const std::string warning = file::copy_over(system_, old_dbname, *chosen, components);
+    const auto warning = file::copy_over(system_, old_dbname, *chosen, components);
     state_.open.content = content;
     set(lblNameDb, *chosen);
     savedb();
-    if (!warning.empty()) refuse(warning);
+    if (warning) refuse(*warning);
     if (const std::string misnamed = db::misnamed(state_.open); !misnamed.empty()) refuse(misnamed);
   } catch (const file::Refusal& refusal) {
     refuse(refusal.what());
@@ -73,10 +73,10 @@ void frmMaindb::savedb() {
   };
   if (add) put_species();
   while (rewrite.keep_until(add ? std::nullopt : species)) put_species();
-  const std::string warning = rewrite.commit();
+  const auto warning = rewrite.commit();
   if (add) Newspecdelete();
   Listfill();
-  if (!warning.empty()) refuse(warning);
+  if (warning) refuse(*warning);
 }
 
 db::NewLeading frmMaindb::new_leading(const std::string& model) const {
@@ -120,7 +120,7 @@ void frmMaindb::cmdDelete_Click() {
                "Deletion of species - Kelmar"))
     return;
 
-  std::string warning;
+  std::optional<std::string> warning;
   const auto failure = message_of(
       [&] {
         db::Rewrite rewrite(system_, state_.open, state_.compdb, new_leading(state_.open.isomodel));
@@ -134,7 +134,7 @@ void frmMaindb::cmdDelete_Click() {
   empty_rows();
   for (const int box : {txtID, txtName, txtlogk, txtdhr, txtCharge, txtKsel}) set(box, "");
   set(txtNocomp, "0");
-  if (!warning.empty()) refuse(warning);
+  if (warning) refuse(*warning);
 }
 
 }  // namespace app

@@ -17,9 +17,9 @@ std::string first_field(file::System& system, const std::string& path) {
   try {
     if (reader.next(field)) return std::string(field.text);
   } catch (const db::FieldError& error) {
-    throw file::Error(path + ": " + error.what() + ".");
+    throw file::Error(file::named(path) + ": " + error.what() + ".");
   }
-  throw file::Error(path + " is empty.");
+  throw file::Error(file::named(path) + " is empty.");
 }
 
 }  // namespace app

@@ -34,7 +34,7 @@ bool ComponentReader::next(Component& component) {
 }
 
 void ComponentReader::fail(const std::string& reason) const {
-  throw file::Error(fields_.path() + ", record " + std::to_string(records_) + ": " + reason + ".");
+  throw file::Error(file::named(fields_.path()) + ", record " + std::to_string(records_) + ": " + reason + ".");
 }
 
 ComponentNames component_names(file::System& system, const std::string& path, std::span<const double> numbers) {
@@ -65,7 +65,7 @@ FoundNumbers component_numbers(file::System& system, const std::string& path, st
     const auto name = match == NameMatch::Trimmed ? trimmed(component.name.text) : component.name.text;
     if (std::find(names.begin(), names.end(), name) == names.end()) continue;
     const auto number = component.number.number();
-    if (!number) reader.fail("the number of " + std::string(name) + " is text");
+    if (!number) reader.fail("the number of " + file::named(name) + " is text");
     found[std::string(name)].value = component.number.text.empty() ? std::nullopt : number;
   }
   if (reader.cut_short()) reader.fail("the file ends inside the record");

@@ -6,7 +6,6 @@
 #include <string_view>
 #include <utility>
 
-#include "db/format.h"
 
 namespace db {
 namespace {
@@ -21,7 +20,7 @@ constexpr auto kEndsField = table_of(",\r\n");
 constexpr auto kEndsQuotedText = table_of("\"\r\n");
 constexpr auto kBlank = table_of(" \t");
 constexpr auto kEmpty = table_of(" \t,\r\n");                             // what fields without a value are made of
-constexpr std::ptrdiff_t kLongestPlain = FieldReader::kLongestField - 2;  // leaves room for quotes
+constexpr std::ptrdiff_t kLongestPlain = kLongestText;
 constexpr const char* kTooLong = "a field is longer than 64 KiB";
 
 // The first character from `at` on that is none of a plain field. The comma and all that ends a field or needs a second

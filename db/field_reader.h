@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "db/field.h"
+#include "db/format.h"
 #include "file/input.h"
 
 namespace db {
@@ -21,7 +22,6 @@ class FieldError : public file::Error {
 
 class FieldReader {
  public:
-  static constexpr std::size_t kLongestField = 64 * 1024;  // bytes in the file, quotes and blanks included
 
   // Throws file::Error when the file cannot be opened.
   FieldReader(file::System& system, std::string path);

@@ -1,10 +1,13 @@
 // The numbers and fixed texts of the file formats; doc/file-format.md tells the grammar and its reasons.
 #pragma once
 
+#include <cstddef>
 #include <string_view>
 
 namespace db {
 
+inline constexpr std::size_t kLongestField = 64 * 1024;  // bytes in the file, quotes and blanks included
+inline constexpr std::size_t kLongestText = kLongestField - 2;
 inline constexpr int kMaxRecords = 4000;  // read from a species database, the end marker counted as one
 inline constexpr int kMaxSpecies = kMaxRecords - 1;
 inline constexpr int kMaxPairs = 10;   // component pairs, and M.B. pairs, of a record that is read

@@ -9,9 +9,9 @@ namespace db {
 Rewrite::Rewrite(file::System& system, const Database& database, const std::string& compdb, const NewLeading& leading)
     : replacement_(system, kTemporaryFile, database.path, spare_components(compdb)),
       reader_(system, database.path),
-      path_(database.path) {
+      name_(file::named(database.path)) {
   if (database.content != database.kind)
-    throw file::Refusal(path_ +
+    throw file::Refusal(name_ +
                         " is another database of another kind: the one that was open could not be copied there. Open " +
                         "the one or the other with the File menu.");
   constexpr std::size_t kGrowth = 4096;  // room for one more species
@@ -47,16 +47,16 @@ void Rewrite::put(std::string_view record) {
 void Rewrite::count() {
   ++species_;
   if (out_.size() > file::kLargestDatabase)
-    throw file::Refusal(path_ + " is larger than 64 MiB. The editor leaves it as it is.");
+    throw file::Refusal(name_ + " is larger than 64 MiB. The editor leaves it as it is.");
 }
 
 const std::string& Rewrite::content() {
   const std::string limit = "a species database holds at most " + std::to_string(kMaxSpecies) + " species. ";
   if (reader_.end() == SpeciesReader::End::Limit)
-    throw file::Refusal(path_ + " goes on after its first " + std::to_string(kMaxRecords) + " records; " + limit +
+    throw file::Refusal(name_ + " goes on after its first " + std::to_string(kMaxRecords) + " records; " + limit +
                         "Nothing was changed. Divide the database with a text editor.");
   if (species_ > kMaxSpecies && species_ > old_species_)
-    throw file::Refusal(path_ + " is full: " + limit + "Delete one first, or add this one to another database.");
+    throw file::Refusal(name_ + " is full: " + limit + "Delete one first, or add this one to another database.");
   if (reader_.hides_more())
     reader_.refuse(
         "an empty line or field ends the list here, and what stands after it would be lost. Nothing was changed. Remove the "

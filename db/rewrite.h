@@ -38,15 +38,15 @@ class Rewrite {
   // After the last record: the new content. Throws file::Refusal when something would be lost or could not be read back.
   const std::string& content();
   // Puts the content in the place of the file. Throws as content(), and file::Error when the file cannot be replaced; it
-  // then is as it was. Returns what the user has to be told of a success, or nothing.
-  [[nodiscard]] std::string commit() { return replacement_.commit(content()); }
+  // then is as it was. Returns what the user has to be told of a success.
+  [[nodiscard]] std::optional<std::string> commit() { return replacement_.commit(content()); }
 
  private:
   void count();
 
   file::Replacement replacement_;  // first: nobody else may replace the file once it is read
   SpeciesReader reader_;
-  std::string path_;
+  std::string name_;
   std::string out_;
   bool no_model_ = false;  // its place is empty
   int old_species_ = 0, species_ = 0;

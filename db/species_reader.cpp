@@ -6,12 +6,12 @@
 
 namespace db {
 std::string SpeciesReader::located_text(const std::string& reason) const {
-  std::string where = fields_.path();
+  std::string where = file::named(fields_.path());
   if (records_ == 0) {
     where += ", before the first record";
   } else {
     where += ", record " + std::to_string(records_);
-    if (record_.head[kId].type() != FieldType::Empty && !record_.name().empty()) where.append(" (").append(record_.name()).append(")");
+    if (record_.head[kId].type() != FieldType::Empty && !record_.name().empty()) where.append(" (").append(file::named(record_.name())).append(")");
   }
   return where + ": " + reason + ".";
 }
@@ -43,7 +43,7 @@ LeadingFields SpeciesReader::read_leading(Leading leading) {
       require(fields);
       const auto critical_f = fields[2].number();
       if (!critical_f)
-        refuse("the critical f value is \"" + std::string(fields[2].text) +
+        refuse("the critical f value is \"" + file::named(fields[2].text) +
                "\", not a number. Mend the file with a text editor");
       read.blm = {std::string(fields[0].text), std::string(fields[1].text), *critical_f};
     }
@@ -102,7 +102,7 @@ const Record* SpeciesReader::read_record() {
 
 double SpeciesReader::number(const Field& field, const char* what) {
   const auto value = field.number();
-  if (!value) throw FieldError(std::string(what) + " is \"" + std::string(field.text) + "\", not a number");
+  if (!value) throw FieldError(std::string(what) + " is \"" + file::named(field.text) + "\", not a number");
   return *value;
 }
 

@@ -17,9 +17,11 @@ LineWriter& LineWriter::number(double value) {
 
 LineWriter& LineWriter::text(std::string_view value) {
   separate();
-  // Between quotes a quote of its own would end it; bare, as it must have been read, it reads the same again.
-  const std::string_view quote = value.find('"') == std::string_view::npos ? "\"" : "";
-  if (quote.empty() && out_.empty() && value.starts_with(kByteOrderMark)) out_ += ' ';  // or it would be passed over
+  // Between quotes a quote of its own would end it, and a reader takes no longer field than kLongestField; bare, as it must
+  // have been read, it reads the same again.
+  const bool fits = value.size() <= kLongestText;
+  const std::string_view quote = fits && value.find('"') == std::string_view::npos ? "\"" : "";
+  if (quote.empty() && out_.empty() && value.starts_with(kByteOrderMark)) out_ += kByteOrderMark;  // which is passed over
   out_.append(quote).append(value).append(quote);
   return *this;
 }
@@ -38,7 +40,12 @@ LineWriter& LineWriter::field(const Field& field) {
     return *this;
   }
   const auto value = parse_number(field.text);
-  return value ? number(*value) : text(field.text);
+  if (!value) return text(field.text);
+  // The largest doubles, rounded to the digits of a file, are none any more.
+  const std::string written = format_number(*value);
+  separate();
+  out_ += parse_number(written) ? std::string_view(written) : field.text;
+  return *this;
 }
 
 namespace {

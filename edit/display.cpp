@@ -30,7 +30,7 @@ class Display {
  private:
   double number(const db::Field& field, const std::string& what) const {
     const auto value = field.number();
-    if (!value) reader_.fail("the " + what + " is \"" + std::string(field.text) + "\", not a number");
+    if (!value) reader_.fail("the " + what + " is \"" + file::named(field.text) + "\", not a number");
     return *value;
   }
   double number(db::HeadField field, const char* what) const { return number(record_.head[field], what); }
@@ -64,7 +64,7 @@ class Display {
   void show_rows(file::System& system, const std::string& compdb) {
     const db::Pairs& pairs = record_.pairs;
     if (pairs.count() > db::kShownPairs)
-      shown_.notice = std::string(name()) + " has " + std::to_string(pairs.count()) +
+      shown_.notice = file::named(name()) + " has " + std::to_string(pairs.count()) +
                       " components: the window holds eight, and the others stay in the database unseen. "
                       "Change this species with a text editor.";
     const int rows = std::min(pairs.count(), db::kShownPairs);

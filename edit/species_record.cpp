@@ -28,7 +28,7 @@ std::span<const Row> Entry::components() const {
   const double n = component_count(*this);
   if (n > db::kShownPairs)
     throw file::Refusal("A species has at most eight components, and the number of components is " +
-                        std::string(db::trimmed(nocomp)) + ". Correct it before saving.");
+                        file::named(db::trimmed(nocomp)) + ". Correct it before saving.");
   return std::span(rows).first(static_cast<std::size_t>(std::max(n, 0.)));
 }
 
@@ -60,6 +60,7 @@ std::string species_record(const Entry& entry, const db::Database& open, std::sp
   const auto name = db::trimmed(entry.name);
   if (name.find_first_of("\"\r\n") != name.npos)
     throw file::Refusal("A species name cannot hold a double quote or a line end. Correct it before saving.");
+  if (name.size() > db::kLongestText) throw file::Refusal("The species name is longer than 65534 characters. Shorten it.");
 
   struct Pair {
     double stoich;

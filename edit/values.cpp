@@ -5,6 +5,7 @@
 #include <climits>
 #include <system_error>
 
+#include "db/number.h"
 #include "file/error.h"
 
 namespace edit {
@@ -37,9 +38,10 @@ double number_rule(std::string_view text) {
 
   double value = 0;
   const auto [stop, error] = std::from_chars(begin, end, value);
-  if (error == std::errc::result_out_of_range) {
-    if (leading_power(std::string_view(begin, stop)) < 0) return 0;  // too small for a double is as good as 0
-    throw file::Refusal("\"" + std::string(text) + "\" is too large a number. Correct it before saving.");
+  const bool out_of_range = error == std::errc::result_out_of_range;
+  if (out_of_range && leading_power(std::string_view(begin, stop)) < 0) return 0;  // too small for a double is as good as 0
+  if (out_of_range || !db::parse_number(db::format_number(value))) {  // the largest grow beyond it with the digits of a file
+    throw file::Refusal("\"" + file::named(text) + "\" is too large a number. Correct it before saving.");
   }
   return negative ? -value : value;
 }

@@ -4,6 +4,7 @@
 
 #include <stdexcept>
 #include <string>
+#include <string_view>
 
 namespace file {
 
@@ -16,5 +17,9 @@ class Error : public std::runtime_error {
 class Refusal : public Error {
   using Error::Error;
 };
+
+// A name, path or text for a message: one of more than 80 characters is shortened in the middle, so that no message grows
+// beyond the screen.
+std::string named(std::string_view name);
 
 }  // namespace file

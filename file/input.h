@@ -12,7 +12,8 @@
 
 namespace file {
 
-// "cannot read x.mdb: Input/output error."
+// Throws Error when there is an error: "cannot read x.mdb: Input/output error."
+void require(std::error_code error, std::string_view what, const std::string& path);
 std::string failure(std::string_view what, const std::string& path, std::error_code error);
 
 // An open file, closed with the object.
@@ -20,18 +21,16 @@ class Input {
  public:
   // Throws Error when `path` is not a plain file that can be opened.
   Input(System& system, std::string path);
-  ~Input();
-  Input(const Input&) = delete;
-  Input& operator=(const Input&) = delete;
 
-  // Reads at most `size` bytes from `offset` on, and none only at the end of the file. Throws Error.
-  std::size_t read(std::uint64_t offset, char* bytes, std::size_t size) const;
+  // Reads at most `size` bytes from `offset` on, and none only at the end of the file. Throws Error; `what` says what was
+  // tried.
+  std::size_t read(std::uint64_t offset, char* bytes, std::size_t size, std::string_view what = "read") const;
   const std::string& path() const { return path_; }
 
  private:
   System& system_;
   std::string path_;
-  Handle handle_ = 0;
+  OpenFile file_;
 };
 
 // The whole content of a file of at most `limit` bytes; a larger one is an Error.

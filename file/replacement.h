@@ -2,82 +2,54 @@
 // crash may leave, and what becomes of it.
 #pragma once
 
-#include <cstdint>
+#include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
-#include <system_error>
 
-#include "file/error.h"
-#include "file/system.h"
+#include "file/temporary_file.h"
 
 namespace file {
 
-// A file that is never written, replaced or removed, under whatever name or link; `what` it is to the user.
-struct Spared {
-  std::string path, what;
-};
-// Throws Refusal when `target` is that file.
-void refuse_spared(System& system, const std::string& target, const Spared& spared);
-
 inline constexpr std::size_t kLargestDatabase = 64 * 1024 * 1024;  // bytes; a larger one is never rewritten
 
-// One replacement, from claiming the temporary file to its end. While it lives, no other process can begin one with the
-// same temporary file.
+// One replacement, from shutting out others to its end. While it lives, no other editor can begin one of the same file, in
+// whatever folder it works, nor one with the same temporary file.
 class Replacement {
  public:
-  // Claims `temporary` for the new content of `target`, which may be a link or not exist yet. Throws Refusal when that
-  // would endanger something (a read-only target, a temporary name that is in use or no plain file, the file to be spared),
-  // and Error when the system does not let it.
-  Replacement(System& system, std::string temporary, const std::string& target, Spared spared);
-  // Leaves no temporary file behind.
-  ~Replacement();
+  // Prepares for a new content of `target`, which may be a link or not exist yet, by way of `temporary`. Throws Refusal when
+  // that would endanger something (a target that is read-only, in use, has several names or is to be spared; a temporary name
+  // that is in use or no plain file), and Error when the system does not let it.
+  Replacement(System& system, const std::string& temporary, const std::string& target, const Spared& spared);
   Replacement(const Replacement&) = delete;
   Replacement& operator=(const Replacement&) = delete;
 
   // The size of the target before the replacement, in bytes.
-  std::size_t old_size() const { return static_cast<std::size_t>(target_status_.size); }
+  std::size_t old_size() const { return static_cast<std::size_t>(before_.size); }
 
-  // Makes `content` the whole content of the target. Throws Error when it could not; the target then holds its old
-  // content. Returns nothing, or what the user has to be told: that the target holds the new content, but a power cut
-  // may still bring the old one back.
-  [[nodiscard]] std::string commit(std::string_view content);
+  // Makes `content` the whole content of the target. Throws Refusal when another program changed the target meanwhile or its
+  // folder does not let a file be replaced, and Error when the system fails; the target then holds its old content. Returns
+  // what the user has to be told of a success: that a power cut may still bring the old content back.
+  [[nodiscard]] std::optional<std::string> commit(std::string_view content);
 
  private:
-  friend std::string copy_over(System& system, const std::string& from, const std::string& to, const Spared& spared);
-
-  // A file that this process created, holds alone and removes unless it was renamed away.
-  struct Claim {
-    std::string path;
-    Handle writer = -1, holder = -1;
-    Status file;  // which file it is, whatever comes to lie under its name
-  };
-
-  void claim(Claim& claim, std::string path);
-  void write_claimed(Claim& claim, std::string_view content);
-  void write_all(Handle handle, std::uint64_t offset, std::string_view bytes, const std::string& path);
-  void verify(Handle handle, std::string_view content, const std::string& path);
-  void release(Claim& claim);
-  bool is_taken(const Claim& claim);
-  std::error_code rename(Claim& claim, const std::string& to);
-  std::string renamed(Claim& claim);
-  std::string copy_beside(std::string_view content);
-  std::string overwrite(std::string_view content);
-  void restore(Handle handle, std::string_view old);
-  void require(std::error_code error, std::string_view what, const std::string& path);
-
-  static constexpr const char* kBeside = ".dbnamep";  // behind the target's name
+  void look_at_target();
+  void exclude_others();
+  Access access() const;
+  std::error_code try_rename(std::string_view content);
 
   System& system_;
   Spared spared_;
-  Claim temporary_;
-  Claim beside_;          // a second temporary file in the target's own folder, when that is on another file system
-  std::string kept_;      // where an overwriting keeps the new content in the meantime
-  std::string target_;    // without links
-  Status target_status_;  // before the replacement
+  std::string name_;    // of the target, as given
+  std::string target_;  // without links
+  OpenFile exclusion_;
+  Status before_;  // of the target, before it is read
+  std::optional<TemporaryFile> temporary_;
 };
 
 // Copies the whole of a file over another by a Replacement, with its result, through a temporary file beside the other;
 // onto itself it does nothing.
-[[nodiscard]] std::string copy_over(System& system, const std::string& from, const std::string& to, const Spared& spared);
+[[nodiscard]] std::optional<std::string> copy_over(System& system, const std::string& from, const std::string& to,
+                                                   const Spared& spared);
 
 }  // namespace file

@@ -1,10 +1,12 @@
 // What the program asks of the operating system's files: one method a call, so that a test can make each one fail.
 // Paths are bytes as the system takes them. Every method reports its failure as an error code and throws nothing; what a
-// failure means is the caller's business (see input.h for reading and replacement.h for replacing one).
+// failure means is the caller's business (see input.h for reading and replacement.h for replacing a file).
 // Rejected: std::filesystem and streams. They cannot flush to the disk, create a file exclusively, lock it, or say that
 // a write came back short.
 #pragma once
 
+#include <array>
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -20,15 +22,20 @@ enum class Type { Missing, Plain, Folder, Link, Other };
 // What is known of a file; for a missing one only `type` counts.
 struct Status {
   Type type = Type::Missing;
-  bool writable = false;     // the system lets this user write it; told by its name only
-  bool access_list = false;  // it has permissions beyond `mode`, which a new file would not get; told by its name only
+  bool writable = false;     // the system lets this user write it; told by its name only, as is:
+  bool replaceable = false;  // its folder lets this user put another file in its place
   std::uint64_t size = 0;
-  std::uint64_t links = 0;              // number of names (hard links)
-  std::uint64_t device = 0, inode = 0;  // the same pair means the same file
-  std::uint32_t mode = 0, user = 0, group = 0;
+  std::uint64_t links = 0;                 // number of names (hard links)
+  std::array<std::uint64_t, 2> identity{};  // the same means the same file
+  std::int64_t changed = 0;                // when, in nanoseconds; any change of the file changes it
 
   bool same_file(const Status& other) const {
-    return type != Type::Missing && other.type != Type::Missing && device == other.device && inode == other.inode;
+    return type != Type::Missing && other.type != Type::Missing && identity == other.identity;
+  }
+  // The same file with the same content, or no file both times.
+  bool same_content(const Status& other) const {
+    return type == other.type && (type == Type::Missing || (identity == other.identity && size == other.size &&
+                                                            changed == other.changed));
   }
 };
 
@@ -39,31 +46,34 @@ class System {
  public:
   virtual ~System() = default;
 
-  // Opens a plain file for reading, from its beginning. A folder, pipe or device is an error; nothing blocks.
+  // Opens a plain file for reading. A folder, pipe or device is an error; nothing blocks.
   virtual std::error_code open_read(const std::string& path, Handle& handle) = 0;
   // Creates a file that must not exist under this name, not even as a dangling link, and opens it for writing.
   virtual std::error_code create_new(const std::string& path, Access access, Handle& handle) = 0;
-  // Opens an existing plain file for reading and writing; a link is an error. The content stays.
-  virtual std::error_code open_existing(const std::string& path, Handle& handle) = 0;
-  // Takes the file for this process alone until its handle is closed; errc::operation_would_block when another has it.
-  virtual std::error_code lock(Handle handle) = 0;
+  // Keeps every other editor, in whatever folder, from the existing plain file of this name (a link is an error) until the
+  // handle is closed. errc::operation_would_block while another has it; errc::not_supported where the file system knows no
+  // way. It does not keep this process from reading, renaming or removing it.
+  virtual std::error_code exclude_others(const std::string& path, Handle& handle) = 0;
 
   // Reads at most `size` bytes from `offset` on; `got` is 0 only at the end of the file.
   virtual std::error_code read(Handle handle, std::uint64_t offset, char* bytes, std::size_t size, std::size_t& got) = 0;
-  // Writes `bytes` at `offset`, perhaps only the first `put` of them.
-  virtual std::error_code write(Handle handle, std::uint64_t offset, std::string_view bytes, std::size_t& put) = 0;
-  virtual std::error_code truncate(Handle handle, std::uint64_t size) = 0;
+  // Writes `bytes` after what was written before, perhaps only the first `put` of them.
+  virtual std::error_code write(Handle handle, std::string_view bytes, std::size_t& put) = 0;
+  // Gives a file created what the file at `path` is for others: permissions, and its owner where the system allows. An
+  // error when somebody could read or write the one who could not the other, but for its owner.
+  virtual std::error_code take_over(Handle handle, const std::string& path) = 0;
   // Returns when the content is on the disk.
   virtual std::error_code flush(Handle handle) = 0;
   virtual std::error_code close(Handle handle) = 0;
 
   virtual std::error_code status(const std::string& path, Follow follow, Status& status) = 0;
   virtual std::error_code status(Handle handle, Status& status) = 0;
-  // Gives an open file the permissions of `like`, and its owner and group where the system allows.
-  virtual std::error_code set_ownership(Handle handle, const Status& like) = 0;
-  // The path without links.
-  virtual std::error_code real_path(const std::string& path, std::string& real) = 0;
+  // The name of the user whose file it is.
+  virtual std::string owner_of(const std::string& path) = 0;
+  // The path of an existing file without links.
+  virtual std::error_code without_links(const std::string& path, std::string& real) = 0;
 
+  // In one step: before it `to` names the old file, if any, after it the new one.
   virtual std::error_code rename(const std::string& from, const std::string& to) = 0;
   virtual std::error_code remove(const std::string& path) = 0;
   // Returns when the names in the folder of `path` are on the disk.
@@ -73,6 +83,7 @@ class System {
   virtual std::error_code change_folder(const std::string& folder) = 0;
   // Makes a drive the current one; does nothing on a system without drives.
   virtual std::error_code change_drive(char letter) = 0;
+  virtual void pause(std::chrono::milliseconds time) = 0;
 };
 
 // Repeats a call while a signal interrupts it; not for ever, lest a broken file system hang the program.
@@ -84,6 +95,29 @@ std::error_code uninterrupted(Call call) {
     if (error = call(); error != std::errc::interrupted) break;
   return error;
 }
+
+// A handle that is closed with the object, if it was not before.
+class OpenFile {
+ public:
+  explicit OpenFile(System& system) : system_(system) {}
+  ~OpenFile() { close(); }
+  OpenFile(const OpenFile&) = delete;
+  OpenFile& operator=(const OpenFile&) = delete;
+
+  // For a call that opens.
+  Handle& handle() { return handle_; }
+  Handle get() const { return handle_; }
+  std::error_code close() {
+    const Handle handle = handle_;
+    handle_ = kNone;
+    return handle == kNone ? std::error_code() : system_.close(handle);
+  }
+
+ private:
+  static constexpr Handle kNone = -1;
+  System& system_;
+  Handle handle_ = kNone;
+};
 
 // The operating system itself.
 System& system();

@@ -113,7 +113,7 @@ TEST(Number, RuleTakesTheLeadingNumberOfABox) {
       edit::number_rule(text);
       ADD_FAILURE() << text;
     } catch (const file::Refusal& refusal) {
-      EXPECT_EQ(refusal.what(), "\"" + text + "\" is too large a number. Correct it before saving.");
+      EXPECT_EQ(refusal.what(), "\"" + file::named(text) + "\" is too large a number. Correct it before saving.");
     }
   }
 }

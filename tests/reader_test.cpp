@@ -92,7 +92,7 @@ std::string rewritten(const std::string& content, const std::string& name = "x.m
   try {
     db::Rewrite rewrite(system, open, "comp.mdb", {.model = "", .critical_f = .5});
     EXPECT_FALSE(rewrite.keep_until(std::nullopt));
-    EXPECT_EQ(rewrite.commit(), "");
+    EXPECT_EQ(rewrite.commit(), std::nullopt);
   } catch (const file::Error& error) {
     EXPECT_EQ(system.content(name), content);
     return error.what();
@@ -116,7 +116,7 @@ TEST(Rewrite, KeepsTypesAndGivesNumbersOneForm) {
       {one + "\r\n ,,\r\n" + std::string(10000, '\n'), one},
       {one + "\x1a\r\n\x1a,,,,,,,,,,,,", one + "\"\x1a\",\"\x1a\",,,,,,,,,,\r\n"},
       {"\xEF\xBB\xBF" + one, one},
-      {"\xEF\xBB\xBF\xEF\xBB\xBFx\"" + one.substr(1), " \xEF\xBB\xBFx\"" + one.substr(1)},
+      {"\xEF\xBB\xBF\xEF\xBB\xBFx\"" + one.substr(1), "\xEF\xBB\xBF\xEF\xBB\xBFx\"" + one.substr(1)},
       {"1\t,\t\"a\"\t,\t 0.5 \t,b\tc,0,0,0,0,0,0,0,0\r\n", lines({"1,\"a\",.5,\"b\tc\",0,0,0,0,0,0,0,0"})},
       {"1,a,0.50,+3,\"2.5\",,x,1E5,0.00001,-0.0,\"a,b\",0\n" + marker,
        "1,\"a\",.5,3,\"2.5\",,\"x\",100000,1E-05,0,\"a,b\",0\r\n" + support::kTrailer},

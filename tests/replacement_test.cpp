@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <string>
 #include <system_error>
@@ -14,7 +15,10 @@
 namespace {
 
 using file::Type;
+using support::Call;
+using support::CallInfo;
 using support::MemorySystem;
+using support::WatchedSystem;
 
 const file::Spared kSpared{"comp.mdb", "the component database"};
 
@@ -22,13 +26,20 @@ class Replace : public testing::Test {
  protected:
   Replace() { system.add("x.mdb", "old content"); }
 
-  // The message of a failed replacement, or "".
+  // What the user is told.
   std::string replace(const std::string& target, const std::string& content = "new") {
     try {
-      return file::Replacement(system, "dbnamep.mdb", target, kSpared).commit(content);
+      return file::Replacement(watched, "dbnamep.mdb", target, kSpared).commit(content).value_or("");
     } catch (const file::Error& error) {
       return error.what();
     }
+  }
+  // The call fails at its nth occurrence, and is not made.
+  void fail(Call call, int nth, std::error_code error = make_error_code(std::errc::io_error)) {
+    watched.before = [=, made = 0](const CallInfo& info) mutable -> std::optional<support::Instead> {
+      if (info.call != call || ++made != nth) return std::nullopt;
+      return support::Instead{error};
+    };
   }
   // The files of the working folder beside x.mdb and its links.
   void expect_nothing_left(std::size_t files) {
@@ -37,120 +48,177 @@ class Replace : public testing::Test {
   }
 
   MemorySystem system;
+  WatchedSystem watched{system};
 };
 
 TEST_F(Replace, KeepsWhatTheFileIsForOthers) {
   system.at("x.mdb").mode = 0664;
+  system.at("x.mdb").attributes = "an access list";
   system.link("link.mdb", "other.mdb");
   system.link("other.mdb", "/kelmar/x.mdb");
+  std::uint32_t mode_at_first = 0;
+  watched.after = [&](const CallInfo& info) {
+    if (info.call == Call::CreateNew) mode_at_first = system.at(info.path).mode;
+  };
   EXPECT_EQ(replace("link.mdb"), "");
+  EXPECT_EQ(mode_at_first, 0600u) << "others could read the new content before it has the permissions of the old";
   EXPECT_EQ(system.at("link.mdb").type, Type::Link);
   EXPECT_EQ(system.content("x.mdb"), "new");
   EXPECT_EQ(system.at("x.mdb").mode, 0664u);
+  EXPECT_EQ(system.at("x.mdb").attributes, "an access list");
   expect_nothing_left(3);
-}
-
-TEST_F(Replace, OverwritesWhereTheFileItselfMustStay) {
-  for (const char* content : {"new", "a content that is longer than the old one", ""}) {
-    MemorySystem::File* const same = &system.at("x.mdb");
-    system.hard_link("y.mdb", "x.mdb");
-    EXPECT_EQ(replace("x.mdb", content), "");
-    EXPECT_EQ(system.content("y.mdb"), content);
-    EXPECT_EQ(&system.at("x.mdb"), same);
-    expect_nothing_left(2);
-  }
-  system.remove("y.mdb");
-  system.at("x.mdb").access_list = true;
-  EXPECT_EQ(replace("x.mdb"), "");
-  EXPECT_TRUE(system.at("x.mdb").access_list);
-  expect_nothing_left(1);
-
-  system.add_folder("/closed", {.device = 1, .writable = false});
-  system.add("/closed/x.mdb", "old");
-  EXPECT_EQ(replace("/closed/x.mdb"), "");
-  EXPECT_EQ(system.content("/closed/x.mdb"), "new");
-  expect_nothing_left(2);
+  EXPECT_EQ(replace("fresh.mdb"), "");
+  EXPECT_EQ(system.at("fresh.mdb").mode, 0644u);
 }
 
 TEST_F(Replace, ReachesAnotherFileSystem) {
-  system.add_folder("/far", {.device = 2, .writable = true});
+  system.add_folder("/far", {.device = 2});
   system.add("/far/x.mdb", "old");
   EXPECT_EQ(replace("/far/x.mdb"), "");
   EXPECT_EQ(replace("/far/new.mdb"), "");
   EXPECT_EQ(system.content("/far/x.mdb") + system.content("/far/new.mdb"), "newnew");
-  system.add_folder("/far-closed", {.device = 3, .writable = false});
-  system.add("/far-closed/x.mdb", "old");
-  EXPECT_EQ(replace("/far-closed/x.mdb"), "");
-  EXPECT_EQ(system.content("/far-closed/x.mdb"), "new");
-  EXPECT_EQ(replace("/far-closed/new.mdb"), "cannot create /far-closed/new.mdb.dbnamep: Permission denied.");
-  expect_nothing_left(4);
+  expect_nothing_left(3);
 }
 
 TEST_F(Replace, RefusesWhatWouldEndangerSomething) {
-  system.at("x.mdb").writable = false;
-  EXPECT_EQ(replace("x.mdb"), "x.mdb is read-only. Make it writable or save to a new database.");
-  system.at("x.mdb").writable = true;
-  system.add("pipe.mdb", "");
-  system.at("pipe.mdb").type = Type::Other;
-  EXPECT_EQ(replace("pipe.mdb"), "pipe.mdb is not a plain file. Choose another name.");
-
-  const std::string in_the_way = "dbnamep.mdb is in the way: it is not a plain file. Remove it and try again.";
-  for (const Type type : {Type::Link, Type::Folder, Type::Other}) {
-    system.add("dbnamep.mdb", "/kelmar/x.mdb");
-    system.at("dbnamep.mdb").type = type;
-    EXPECT_EQ(replace("x.mdb"), in_the_way);
-    EXPECT_TRUE(system.has("dbnamep.mdb"));
-    EXPECT_EQ(system.content("x.mdb"), "old content");
+  const std::string elsewhere = " Use \"Save changes to new database\" with another place.",
+                    in_the_way = "dbnamep.mdb is in the way: it is not a plain file. Remove it and try again.",
+                    itself = "the open database is the temporary file dbnamep.mdb itself. Copy it to another name and open that.",
+                    spared = " is the component database, which is never changed. Choose another file for one of the two.";
+  const struct {
+    std::function<void(MemorySystem&)> prepare;
+    const char* target;
+    std::string message;
+  } rows[] = {
+      {[](MemorySystem& s) { s.at("x.mdb").writable = false; }, "x.mdb",
+       "x.mdb is read-only. Make it writable or save to a new database."},
+      {[](MemorySystem& s) { s.at("x.mdb").type = Type::Other; }, "x.mdb", "x.mdb is not a plain file. Choose another name."},
+      {[](MemorySystem& s) { s.hard_link("y.mdb", "x.mdb"); }, "x.mdb",
+       "x.mdb has several names (hard links), from which replacing it would part it." + elsewhere},
+      {[](MemorySystem& s) {
+         s.add_folder("/closed", {.writable = false});
+         s.add("/closed/x.mdb", "old content");
+       },
+       "/closed/x.mdb", "the folder of /closed/x.mdb does not let a file be replaced." + elsewhere},
+      {[](MemorySystem& s) { s.add_folder("/closed", {.device = 2, .writable = false}); }, "/closed/x.mdb",
+       "cannot create /closed/x.mdb.dbnamep: Permission denied."},
+      {[](MemorySystem& s) { s.link("dbnamep.mdb", "x.mdb"); }, "x.mdb", in_the_way},
+      {[](MemorySystem& s) { s.link("dbnamep.mdb", "nowhere"); }, "x.mdb", in_the_way},
+      {[](MemorySystem& s) {
+         s.add("dbnamep.mdb", "");
+         s.at("dbnamep.mdb").type = Type::Folder;
+       },
+       "x.mdb", in_the_way},
+      {[](MemorySystem& s) { s.add("dbnamep.mdb", "old content"); }, "dbnamep.mdb", itself},
+      {[](MemorySystem& s) { s.add("dbnamep.mdb", "old content"); }, "/kelmar/dbnamep.mdb", itself},
+      {[](MemorySystem& s) { s.link("y.mdb", "dbnamep.mdb"), s.add("dbnamep.mdb", "old content"); }, "y.mdb", itself},
+      {[](MemorySystem&) {}, "dbnamep.mdb", itself},
+      {[](MemorySystem& s) { s.hard_link("comp.mdb", "x.mdb"); }, "x.mdb", "x.mdb" + spared},
+      {[](MemorySystem& s) { s.add("comp.mdb", ""), s.hard_link("dbnamep.mdb", "comp.mdb"); }, "x.mdb",
+       "dbnamep.mdb" + spared},
+  };
+  for (const auto& row : rows) {
+    system = MemorySystem();
+    system.add("x.mdb", "old content");
+    row.prepare(system);
+    const auto before = system.all();
+    EXPECT_EQ(replace(row.target), row.message);
+    EXPECT_EQ(system.all(), before) << row.message;
+    EXPECT_EQ(system.open_handles(), 0) << row.message;
   }
-  system.remove("dbnamep.mdb");
-  system.link("dbnamep.mdb", "nowhere");
-  EXPECT_EQ(replace("x.mdb"), in_the_way);
-  system.remove("dbnamep.mdb");
-
-  // The open database under the temporary name, by whatever path: another name of it must not be removed as a leftover.
-  const std::string itself =
-      "the open database is the temporary file dbnamep.mdb itself. Copy it to another name and open that.";
-  system.hard_link("dbnamep.mdb", "x.mdb");
-  EXPECT_EQ(replace("x.mdb"), itself);
-  EXPECT_EQ(replace("/kelmar/dbnamep.mdb"), itself);
-  EXPECT_EQ(system.content("dbnamep.mdb"), "old content");
 }
 
-TEST_F(Replace, RemovesAPlainLeftoverButNoneInUse) {
-  system.add("dbnamep.mdb", "a leftover");
+TEST_F(Replace, RemovesAPlainLeftoverAndNothingElse) {
   system.add("precious", "somebody's only copy");
-  system.remove("dbnamep.mdb");
   system.hard_link("dbnamep.mdb", "precious");
   EXPECT_EQ(replace("x.mdb"), "");
   EXPECT_EQ(system.content("precious"), "somebody's only copy");
-
-  const std::string in_use =
-      "dbnamep.mdb is in use: another editor is saving in this folder. Wait until it is done and try again.";
-  {
-    file::Replacement first(system, "dbnamep.mdb", "x.mdb", kSpared);
-    EXPECT_EQ(replace("x.mdb"), in_use);
-    EXPECT_EQ(first.commit("first"), "");
+  // One that is another user's is told as that.
+  for (const auto& [call, reason] : {std::pair(Call::ExcludeOthers, std::errc::permission_denied),
+                                     std::pair(Call::Remove, std::errc::operation_not_permitted)}) {
+    system.add("dbnamep.mdb", "another's");
+    fail(call, call == Call::Remove ? 1 : 2, make_error_code(reason));
+    EXPECT_EQ(replace("x.mdb"),
+              "dbnamep.mdb belongs to ada, whose saving in this folder is not done or was interrupted. Try again in a while; if "
+              "the file stays, have ada remove it.");
+    EXPECT_EQ(system.content("dbnamep.mdb"), "another's");
   }
-  EXPECT_EQ(system.content("x.mdb"), "first");
-  EXPECT_EQ(replace("x.mdb"), "");
-
   // A file that has come under the name meanwhile is another editor's: it takes nobody's place and is not removed.
-  {
-    file::Replacement first(system, "dbnamep.mdb", "x.mdb", kSpared);
-    system.add("dbnamep.mdb", "half a database");
-    EXPECT_THROW((void)first.commit("second"), file::Refusal);
-  }
-  EXPECT_EQ(system.content("x.mdb") + ", " + system.content("dbnamep.mdb"), "new, half a database");
   system.remove("dbnamep.mdb");
+  watched.before = [](const CallInfo&) { return std::nullopt; };
+  watched.after = [this](const CallInfo& info) {
+    if (info.call == Call::Flush) system.add("dbnamep.mdb", "half a database");
+  };
+  EXPECT_NE(replace("x.mdb", "second"), "");
+  EXPECT_EQ(system.content("x.mdb") + ", " + system.content("dbnamep.mdb"), "new, half a database");
+}
 
-  system.add("dbnamep.mdb.keep", "whole");
-  EXPECT_TRUE(replace("x.mdb").starts_with("dbnamep.mdb.keep holds the whole content"));
-  EXPECT_EQ(system.content("dbnamep.mdb.keep"), "whole");
+// Two savings of one database, or in one folder: the second takes its turn, or is told.
+TEST_F(Replace, TakesItsTurn) {
+  const struct {
+    const char *temporary, *target, *told;
+  } rows[] = {{"dbnamep.mdb", "x.mdb", "x.mdb is in use: another editor is saving it. Wait until it is done and try again."},
+              {"/other/dbnamep.mdb", "link.mdb",
+               "link.mdb is in use: another editor is saving it. Wait until it is done and try again."},
+              {"dbnamep.mdb", "y.mdb",
+               "dbnamep.mdb is in use: another editor is saving in this folder. Wait until it is done and try again."}};
+  system.add_folder("/other");
+  system.link("link.mdb", "x.mdb");
+  system.add("y.mdb", "old content");
+  for (const auto& [temporary, target, told] : rows) {
+    std::optional<file::Replacement> first(std::in_place, system, "dbnamep.mdb", "x.mdb", kSpared);
+    const auto second = [&, temporary = temporary, target = target]() -> std::string {
+      try {
+        return file::Replacement(system, temporary, target, kSpared).commit("second").value_or("");
+      } catch (const file::Error& error) {
+        return error.what();
+      }
+    };
+    EXPECT_EQ(second(), told);
+    int waited = 0;
+    system.meanwhile = [&] {
+      if (++waited != 5) return;
+      EXPECT_EQ(first->commit("first"), std::nullopt);
+      first.reset();
+    };
+    EXPECT_EQ(second(), "");
+    EXPECT_EQ(waited, 5);
+    EXPECT_EQ(system.content(target), "second");
+    system.meanwhile = [] {};
+  }
+  // Where the file system knows no locks, the names alone keep them apart.
+  system.folder("/kelmar").locks = false;
+  file::Replacement first(system, "dbnamep.mdb", "x.mdb", kSpared);
+  EXPECT_EQ(replace("y.mdb", "third"), "");
+  EXPECT_THROW((void)first.commit("fourth"), file::Error);
+  EXPECT_EQ(system.content("x.mdb"), "first");
+}
+
+TEST_F(Replace, LeavesAloneWhatAnotherProgramChangedMeanwhile) {
+  const std::function<void()> changes[] = {[&] { system.add("x.mdb", "other"); },  // another file under the name
+                                           [&] { system.at("x.mdb").content = "longer than it was"; },
+                                           [&] { ++system.at("x.mdb").changed; },
+                                           [&] { system.remove("x.mdb"); }};
+  for (const auto& change : changes) {
+    system.add("x.mdb", "old content");
+    watched.after = [&](const CallInfo& info) {
+      if (info.call == Call::Flush) change();
+    };
+    EXPECT_EQ(replace("x.mdb"),
+              "x.mdb was changed by another program while it was being saved, and is left as that made it. Show the species "
+              "again and repeat the change.");
+    EXPECT_NE(system.content("x.mdb"), "new");
+    if (system.has("x.mdb")) expect_nothing_left(1);
+  }
+  watched.after = [&](const CallInfo& info) {
+    if (info.call == Call::Flush) system.add("fresh.mdb", "another's");
+  };
+  EXPECT_NE(replace("fresh.mdb"), "");
+  EXPECT_EQ(system.content("fresh.mdb"), "another's");
 }
 
 // Each call that fails is told with what it was for, the file, and the system's reason.
 TEST_F(Replace, SaysWhatFailedAndWhere) {
-  using support::Call;
   const struct {
     Call call;
     int nth;
@@ -158,66 +226,81 @@ TEST_F(Replace, SaysWhatFailedAndWhere) {
   } rows[] = {
       {Call::StatusOfPath, 1, "cannot look at x.mdb"},
       {Call::StatusOfPath, 2, "cannot look at comp.mdb"},
-      {Call::RealPath, 1, "cannot find x.mdb"},
-      {Call::OpenExisting, 1, "cannot open dbnamep.mdb"},
-      {Call::Lock, 1, "cannot lock dbnamep.mdb"},
+      {Call::WithoutLinks, 1, "cannot find x.mdb"},
+      {Call::ExcludeOthers, 1, "cannot lock x.mdb"},
+      {Call::ExcludeOthers, 2, "cannot remove dbnamep.mdb"},
+      {Call::ExcludeOthers, 3, "cannot lock dbnamep.mdb"},
       {Call::Remove, 1, "cannot remove dbnamep.mdb"},
       {Call::CreateNew, 1, "cannot create dbnamep.mdb"},
+      {Call::StatusOfHandle, 1, "cannot look at dbnamep.mdb"},
       {Call::Write, 1, "cannot write dbnamep.mdb"},
-      {Call::SetOwnership, 1, "cannot set the permissions of dbnamep.mdb"},
+      {Call::TakeOver, 1, "cannot set the permissions of dbnamep.mdb"},
       {Call::Flush, 1, "cannot write to the disk dbnamep.mdb"},
-      {Call::Close, 2, "cannot close dbnamep.mdb"},
+      {Call::OpenRead, 1, "cannot open dbnamep.mdb"},
       {Call::Read, 1, "cannot read back dbnamep.mdb"},
       {Call::Rename, 1, "cannot replace /kelmar/x.mdb"},
   };
-  for (const auto& row : rows) {
+  for (const auto& [call, nth, message] : rows) {
     system.add("dbnamep.mdb", "a leftover");
-    support::WatchedSystem watched(system);
-    watched.before = [&, made = 0](const support::CallInfo& info) mutable -> std::optional<support::Instead> {
-      if (info.call != row.call || ++made != row.nth) return std::nullopt;
-      return support::Instead{make_error_code(std::errc::io_error)};
-    };
-    try {
-      (void)file::Replacement(watched, "dbnamep.mdb", "x.mdb", kSpared).commit("new");
-      ADD_FAILURE() << row.message;
-    } catch (const file::Error& error) {
-      EXPECT_EQ(error.what(), std::string(row.message) + ": Input/output error.");
-    }
+    fail(call, nth);
+    EXPECT_EQ(replace("x.mdb"), std::string(message) + ": Input/output error.");
     EXPECT_EQ(system.content("x.mdb"), "old content");
     if (system.has("dbnamep.mdb")) system.remove("dbnamep.mdb");
+    expect_nothing_left(1);
   }
-  support::WatchedSystem watched(system);
-  watched.before = [](const support::CallInfo& info) -> std::optional<support::Instead> {
-    if (info.call != support::Call::FlushFolder) return std::nullopt;
+  fail(Call::FlushFolder, 1);
+  EXPECT_EQ(replace("x.mdb"),
+            "cannot write to the disk the folder of /kelmar/x.mdb: Input/output error. The database holds the new content, but "
+            "a power cut may bring the old one back: save it again.");
+  EXPECT_EQ(system.content("x.mdb"), "new");
+  fail(Call::Rename, 1, make_error_code(std::errc::permission_denied));
+  EXPECT_EQ(replace("x.mdb", "newer"),
+            "the folder of x.mdb does not let a file be replaced. Use \"Save changes to new database\" with another place.");
+  // A close that fails; a write that puts nothing; a disk that does not hold what was written.
+  file::Handle writer = -1;
+  watched.after = [&](const CallInfo& info) {
+    if (info.call == Call::CreateNew) writer = info.handle;
+  };
+  watched.before = [&](const CallInfo& info) -> std::optional<support::Instead> {
+    if (info.call != Call::Close || info.handle != writer) return std::nullopt;
     return support::Instead{make_error_code(std::errc::io_error)};
   };
-  EXPECT_EQ(file::Replacement(watched, "dbnamep.mdb", "x.mdb", kSpared).commit("new"),
-            "cannot write to the disk the folder of /kelmar/x.mdb: Input/output error. The database holds the new content, "
-            "but a power cut may bring the old one back: save it again.");
-}
-
-TEST_F(Replace, TellsOfADiskThatDoesNotHoldWhatWasWritten) {
-  support::WatchedSystem watched(system);
-  watched.after = [this](const support::CallInfo& info) {
-    if (info.call == support::Call::Flush) system.at("dbnamep.mdb").content += '!';
+  EXPECT_EQ(replace("x.mdb", "newer"), "cannot close dbnamep.mdb: Input/output error.");
+  fail(Call::Write, 1, {});
+  EXPECT_EQ(replace("x.mdb", "newer"), "cannot write dbnamep.mdb: No space left on device.");
+  watched.before = [](const CallInfo&) { return std::nullopt; };
+  watched.after = [this](const CallInfo& info) {
+    if (info.call == Call::Flush) system.at("dbnamep.mdb").content += '!';
   };
-  try {
-    (void)file::Replacement(watched, "dbnamep.mdb", "x.mdb", kSpared).commit("new");
-    ADD_FAILURE();
-  } catch (const file::Error& error) {
-    EXPECT_STREQ(error.what(), "dbnamep.mdb does not hold what was written to it. The disk may be failing.");
-  }
-  EXPECT_EQ(system.content("x.mdb"), "old content");
+  EXPECT_EQ(replace("x.mdb", "newer"), "dbnamep.mdb does not hold what was written to it. The disk may be failing.");
+  EXPECT_EQ(system.content("x.mdb"), "new");
   expect_nothing_left(1);
 }
 
+TEST_F(Replace, TriesAFailedFlushOnlyOnce) {
+  int flushes = 0;
+  watched.before = [&](const CallInfo& info) -> std::optional<support::Instead> {
+    if (info.call != Call::Flush) return std::nullopt;
+    return ++flushes == 1 ? std::optional(support::Instead{make_error_code(std::errc::interrupted)}) : std::nullopt;
+  };
+  EXPECT_NE(replace("x.mdb"), "");
+  EXPECT_EQ(flushes, 1);
+}
+
 TEST_F(Replace, CopiesOverButNotOntoItself) {
-  EXPECT_EQ(file::copy_over(system, "x.mdb", "y.mdb", kSpared), "");
+  EXPECT_EQ(file::copy_over(watched, "x.mdb", "y.mdb", kSpared), std::nullopt);
   EXPECT_EQ(system.content("y.mdb"), "old content");
   system.link("z.mdb", "/kelmar/x.mdb");
-  EXPECT_EQ(file::copy_over(system, "x.mdb", "z.mdb", kSpared), "");
-  EXPECT_EQ(system.at("z.mdb").type, Type::Link);
+  watched.after = [](const CallInfo& info) { EXPECT_NE(info.call, Call::CreateNew); };
+  for (const char* same : {"x.mdb", "z.mdb"}) EXPECT_EQ(file::copy_over(watched, "x.mdb", same, kSpared), std::nullopt);
   expect_nothing_left(3);
+}
+
+TEST(Names, AreShortenedInTheMiddle) {
+  const std::string fits(80, 'x');
+  EXPECT_EQ(file::named(fits), fits);
+  EXPECT_EQ(file::named("the beginning" + fits + "the end"),
+            "the beginning" + std::string(25, 'x') + "..." + std::string(31, 'x') + "the end");
 }
 
 }  // namespace

@@ -505,6 +505,13 @@ TEST_F(Story, FullDatabaseTakesNoFurtherSpecies) {
             "database.]");
   EXPECT_EQ(system.content("x.mdb"), content + kTrailer);
   EXPECT_TRUE(program.Shown(txtSpname));
+  // One less leaves room for one.
+  const std::string but_one = content.substr(content.size() / 3999);
+  system.add("y.mdb", but_one + kTrailer);
+  program.Choose("y.mdb");
+  program.Click(mnuFileOpen);
+  add_species(program);
+  EXPECT_EQ(system.content("y.mdb"), lines({"7,\"New\",0,1,0,0,0,0,0,0,0,0"}) + but_one + kTrailer);
 }
 
 TEST_F(Story, DeletionOfASpecies) {

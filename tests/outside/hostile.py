@@ -56,7 +56,7 @@ for what, content in CONTENTS.items():
                 fail("%s as %s: ended with %s" % (what, hand_over, status))
 
 # Folders and pipes in place of files.
-for name in ("x.mdb", "comp.mdb", "sorptemp.dat", "dabase.txt", "dbnamep.mdb", "dbnamep.mdb.keep", "new.mdb"):
+for name in ("x.mdb", "comp.mdb", "sorptemp.dat", "dabase.txt", "dbnamep.mdb", "new.mdb"):
     for what, make in (("folder", os.mkdir), ("pipe", os.mkfifo), ("dangling link", lambda p: os.symlink("nowhere", p))):
         with Folder() as folder:
             if os.path.lexists(folder.file(name)):

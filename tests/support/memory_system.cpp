@@ -25,6 +25,7 @@ void MemorySystem::add(const std::string& path, std::string content) {
   auto file = std::make_shared<File>();
   file->content = std::move(content);
   file->inode = next_inode_++;
+  touch(*file);
   files_[absolute(path)] = file;
 }
 
@@ -63,15 +64,19 @@ const MemorySystem::Folder* MemorySystem::folder_of(const std::string& path) con
   return found == folders_.end() ? nullptr : &found->second;
 }
 
+bool MemorySystem::may_change_names(const std::string& path) const {
+  const Folder* const folder = folder_of(path);
+  return folder == nullptr || folder->writable;
+}
+
 file::Status MemorySystem::status_of(const std::string& path, const File& file) const {
   file::Status status;
   status.type = file.type;
   status.writable = file.writable;
-  status.access_list = file.access_list;
+  status.replaceable = may_change_names(path);
   status.size = file.content.size();
-  status.mode = file.mode;
-  status.inode = file.inode;
-  status.device = folder_of(path) == nullptr ? 1 : folder_of(path)->device;
+  status.identity = {folder_of(path) == nullptr ? 1 : folder_of(path)->device, file.inode};
+  status.changed = file.changed;
   for (const auto& [name, other] : files_) status.links += other->inode == file.inode;
   return status;
 }
@@ -80,6 +85,7 @@ std::error_code MemorySystem::open(const std::string& path, Handle& handle) {
   const auto found = files_.find(path);
   if (found == files_.end()) return failed(std::errc::no_such_file_or_directory);
   if (found->second->type == Type::Folder) return failed(std::errc::is_a_directory);
+  if (found->second->type == Type::Link) return failed(std::errc::too_many_symbolic_link_levels);
   if (found->second->type != Type::Plain) return failed(std::errc::invalid_argument);
   handle = next_handle_++;
   handles_[handle].file = found->second;
@@ -87,12 +93,6 @@ std::error_code MemorySystem::open(const std::string& path, Handle& handle) {
 }
 
 std::error_code MemorySystem::open_read(const std::string& path, Handle& handle) { return open(followed(path), handle); }
-
-std::error_code MemorySystem::open_existing(const std::string& path, Handle& handle) {
-  const auto found = files_.find(absolute(path));
-  if (found != files_.end() && !found->second->writable) return failed(std::errc::permission_denied);
-  return open(absolute(path), handle);
-}
 
 std::error_code MemorySystem::create_new(const std::string& path, file::Access access, Handle& handle) {
   const std::string at = absolute(path);
@@ -105,10 +105,18 @@ std::error_code MemorySystem::create_new(const std::string& path, file::Access a
   return open(at, handle);
 }
 
-std::error_code MemorySystem::lock(Handle handle) {
-  Open& open = handles_.at(handle);
-  if (open.file->locked) return failed(std::errc::operation_would_block);
-  open.file->locked = open.holds_lock = true;
+std::error_code MemorySystem::exclude_others(const std::string& path, Handle& handle) {
+  const std::string at = absolute(path);
+  Handle opened = -1;
+  if (const auto error = open(at, opened)) return error;
+  const bool locks = folder_of(at)->locks;
+  File& file = *handles_.at(opened).file;
+  if (!locks || file.locked) {
+    close(opened);
+    return failed(locks ? std::errc::operation_would_block : std::errc::not_supported);
+  }
+  file.locked = handles_.at(opened).holds_lock = true;
+  handle = opened;
   return {};
 }
 
@@ -118,16 +126,21 @@ std::error_code MemorySystem::read(Handle handle, std::uint64_t offset, char* by
   return {};
 }
 
-std::error_code MemorySystem::write(Handle handle, std::uint64_t offset, std::string_view bytes, std::size_t& put) {
-  std::string& content = handles_.at(handle).file->content;
-  content.resize(std::max(content.size(), static_cast<std::size_t>(offset) + bytes.size()));
-  content.replace(static_cast<std::size_t>(offset), bytes.size(), bytes);
+std::error_code MemorySystem::write(Handle handle, std::string_view bytes, std::size_t& put) {
+  File& file = *handles_.at(handle).file;
+  file.content += bytes;
+  touch(file);
   put = bytes.size();
   return {};
 }
 
-std::error_code MemorySystem::truncate(Handle handle, std::uint64_t size) {
-  handles_.at(handle).file->content.resize(static_cast<std::size_t>(size));
+std::error_code MemorySystem::take_over(Handle handle, const std::string& path) {
+  const auto found = files_.find(followed(path));
+  if (found == files_.end()) return failed(std::errc::no_such_file_or_directory);
+  File& file = *handles_.at(handle).file;
+  file.mode = found->second->mode;
+  file.attributes = found->second->attributes;
+  touch(file);
   return {};
 }
 
@@ -143,7 +156,8 @@ std::error_code MemorySystem::status(const std::string& path, file::Follow follo
   const std::string at = follow == file::Follow::Links ? followed(path) : absolute(path);
   const auto found = files_.find(at);
   status = found == files_.end() ? file::Status() : status_of(at, *found->second);
-  return {};
+  const bool loops = follow == file::Follow::Links && found != files_.end() && found->second->type == Type::Link;
+  return loops ? failed(std::errc::too_many_symbolic_link_levels) : std::error_code();
 }
 
 std::error_code MemorySystem::status(Handle handle, file::Status& status) {
@@ -154,12 +168,9 @@ std::error_code MemorySystem::status(Handle handle, file::Status& status) {
   return {};
 }
 
-std::error_code MemorySystem::set_ownership(Handle handle, const file::Status& like) {
-  handles_.at(handle).file->mode = like.mode;
-  return {};
-}
+std::string MemorySystem::owner_of(const std::string&) { return "ada"; }
 
-std::error_code MemorySystem::real_path(const std::string& path, std::string& real) {
+std::error_code MemorySystem::without_links(const std::string& path, std::string& real) {
   real = followed(path);
   return files_.count(real) > 0 ? std::error_code() : failed(std::errc::no_such_file_or_directory);
 }
@@ -169,15 +180,21 @@ std::error_code MemorySystem::rename(const std::string& from, const std::string&
   const Folder *left = folder_of(source), *entered = folder_of(target);
   if (files_.count(source) == 0 || entered == nullptr) return failed(std::errc::no_such_file_or_directory);
   if (left->device != entered->device) return failed(std::errc::cross_device_link);
-  if (!left->writable || !entered->writable) return failed(std::errc::permission_denied);
+  if (!left->writable || !may_change_names(target)) return failed(std::errc::permission_denied);
   if (files_.count(target) > 0 && files_[target] == files_[source]) return {};
+  touch(*files_[source]);
   files_[target] = files_[source];
   files_.erase(source);
   return {};
 }
 
 std::error_code MemorySystem::remove(const std::string& path) {
-  return files_.erase(absolute(path)) > 0 ? std::error_code() : failed(std::errc::no_such_file_or_directory);
+  const auto found = files_.find(absolute(path));
+  if (found == files_.end()) return failed(std::errc::no_such_file_or_directory);
+  if (!may_change_names(found->first)) return failed(std::errc::permission_denied);
+  touch(*found->second);
+  files_.erase(found);
+  return {};
 }
 
 std::error_code MemorySystem::flush_folder_of(const std::string&) { return {}; }
@@ -194,5 +211,7 @@ std::error_code MemorySystem::change_folder(const std::string& folder) {
 }
 
 std::error_code MemorySystem::change_drive(char) { return {}; }
+
+void MemorySystem::pause(std::chrono::milliseconds) { meanwhile(); }
 
 }  // namespace support

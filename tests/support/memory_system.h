@@ -3,6 +3,9 @@
 #pragma once
 
 #include <cstdint>
+#include <chrono>
+#include <cstdint>
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -21,13 +24,15 @@ class MemorySystem : public file::System {
     std::string content;  // of a link: where it points
     std::uint32_t mode = 0644;
     bool writable = true;
-    bool access_list = false;
+    std::string attributes;  // beyond the permissions
     bool locked = false;
     std::uint64_t inode = 0;
+    std::int64_t changed = 0;
   };
   struct Folder {
     std::uint64_t device = 1;
     bool writable = true;
+    bool locks = true;
   };
 
   MemorySystem() { add_folder("/kelmar"); }
@@ -39,6 +44,7 @@ class MemorySystem : public file::System {
   void link(const std::string& path, const std::string& to);             // symbolic
   void hard_link(const std::string& path, const std::string& existing);  // another name of the same file
   File& at(const std::string& path) { return *files_.at(absolute(path)); }
+  Folder& folder(const std::string& path) { return folders_.at(path); }
   bool has(const std::string& path) const { return files_.count(absolute(path)) > 0; }
   std::string content(const std::string& path) const;
   // Every name with its content.
@@ -46,25 +52,29 @@ class MemorySystem : public file::System {
   int open_handles() const { return static_cast<int>(handles_.size()); }
   std::string absolute(const std::string& path) const;
 
+  // What others do while the program waits.
+  std::function<void()> meanwhile = [] {};
+
   std::error_code open_read(const std::string& path, file::Handle& handle) override;
   std::error_code create_new(const std::string& path, file::Access access, file::Handle& handle) override;
-  std::error_code open_existing(const std::string& path, file::Handle& handle) override;
-  std::error_code lock(file::Handle handle) override;
-  std::error_code read(file::Handle handle, std::uint64_t offset, char* bytes, std::size_t size, std::size_t& got) override;
-  std::error_code write(file::Handle handle, std::uint64_t offset, std::string_view bytes, std::size_t& put) override;
-  std::error_code truncate(file::Handle handle, std::uint64_t size) override;
+  std::error_code exclude_others(const std::string& path, file::Handle& handle) override;
+  std::error_code read(file::Handle handle, std::uint64_t offset, char* bytes, std::size_t size,
+                       std::size_t& got) override;
+  std::error_code write(file::Handle handle, std::string_view bytes, std::size_t& put) override;
+  std::error_code take_over(file::Handle handle, const std::string& path) override;
   std::error_code flush(file::Handle handle) override;
   std::error_code close(file::Handle handle) override;
   std::error_code status(const std::string& path, file::Follow follow, file::Status& status) override;
   std::error_code status(file::Handle handle, file::Status& status) override;
-  std::error_code set_ownership(file::Handle handle, const file::Status& like) override;
-  std::error_code real_path(const std::string& path, std::string& real) override;
+  std::string owner_of(const std::string& path) override;
+  std::error_code without_links(const std::string& path, std::string& real) override;
   std::error_code rename(const std::string& from, const std::string& to) override;
   std::error_code remove(const std::string& path) override;
   std::error_code flush_folder_of(const std::string& path) override;
   std::error_code current_folder(std::string& folder) override;
   std::error_code change_folder(const std::string& folder) override;
   std::error_code change_drive(char letter) override;
+  void pause(std::chrono::milliseconds time) override;
 
  private:
   struct Open {
@@ -76,6 +86,8 @@ class MemorySystem : public file::System {
   const Folder* folder_of(const std::string& absolute_path) const;
   file::Status status_of(const std::string& absolute_path, const File& file) const;
   std::error_code open(const std::string& absolute_path, file::Handle& handle);
+  bool may_change_names(const std::string& absolute_path) const;
+  void touch(File& file) { file.changed = ++now_; }
 
   std::map<std::string, std::shared_ptr<File>> files_;
   std::map<std::string, Folder> folders_;
@@ -83,6 +95,7 @@ class MemorySystem : public file::System {
   std::string current_ = "/kelmar";
   file::Handle next_handle_ = 3;
   std::uint64_t next_inode_ = 1;
+  std::int64_t now_ = 0;
 };
 
 }  // namespace support

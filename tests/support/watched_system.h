@@ -15,17 +15,15 @@ namespace support {
 enum class Call {
   OpenRead,
   CreateNew,
-  OpenExisting,
-  Lock,
+  ExcludeOthers,
   Read,
   Write,
-  Truncate,
   Flush,
   Close,
   StatusOfPath,
   StatusOfHandle,
-  SetOwnership,
-  RealPath,
+  TakeOver,
+  WithoutLinks,
   Rename,
   Remove,
   FlushFolder,
@@ -39,7 +37,6 @@ struct CallInfo {
   Call call;
   file::Handle handle = -1;
   std::string path, to;      // of calls with paths
-  std::uint64_t offset = 0;  // of Write; of Truncate the size
   std::string_view bytes{};  // of Write
 };
 
@@ -48,6 +45,9 @@ struct Instead {
   std::error_code error{};
   bool half = false;
 };
+
+// While a call of a watched system is made: what happens in it is no fault of the program.
+inline int calls_in_progress = 0;
 
 class WatchedSystem final : public file::System {
  public:
@@ -64,25 +64,22 @@ class WatchedSystem final : public file::System {
     return make({Call::CreateNew, -1, path, ""},
                 [&](CallInfo& info) { return opened(info, handle, inner_.create_new(path, access, handle)); });
   }
-  std::error_code open_existing(const std::string& path, file::Handle& handle) override {
-    return make({Call::OpenExisting, -1, path, ""},
-                [&](CallInfo& info) { return opened(info, handle, inner_.open_existing(path, handle)); });
-  }
-  std::error_code lock(file::Handle handle) override {
-    return make({Call::Lock, handle, "", ""}, [&](CallInfo&) { return inner_.lock(handle); });
+  std::error_code exclude_others(const std::string& path, file::Handle& handle) override {
+    return make({Call::ExcludeOthers, -1, path, ""},
+                [&](CallInfo& info) { return opened(info, handle, inner_.exclude_others(path, handle)); });
   }
   std::error_code read(file::Handle handle, std::uint64_t offset, char* bytes, std::size_t size, std::size_t& got) override {
     return make({Call::Read, handle, "", ""},
                 [&](CallInfo&) { return inner_.read(handle, offset, bytes, half_ ? (size + 1) / 2 : size, got); });
   }
-  std::error_code write(file::Handle handle, std::uint64_t offset, std::string_view bytes, std::size_t& put) override {
-    return make({Call::Write, handle, "", "", offset, bytes}, [&](CallInfo& info) {
+  std::error_code write(file::Handle handle, std::string_view bytes, std::size_t& put) override {
+    return make({Call::Write, handle, "", "", bytes}, [&](CallInfo& info) {
       if (half_) info.bytes = bytes.substr(0, bytes.size() / 2);
-      return inner_.write(handle, offset, info.bytes, put);
+      return inner_.write(handle, info.bytes, put);
     });
   }
-  std::error_code truncate(file::Handle handle, std::uint64_t size) override {
-    return make({Call::Truncate, handle, "", "", size}, [&](CallInfo&) { return inner_.truncate(handle, size); });
+  std::error_code take_over(file::Handle handle, const std::string& path) override {
+    return make({Call::TakeOver, handle, path, ""}, [&](CallInfo&) { return inner_.take_over(handle, path); });
   }
   std::error_code flush(file::Handle handle) override {
     return make({Call::Flush, handle, "", ""}, [&](CallInfo&) { return inner_.flush(handle); });
@@ -97,11 +94,9 @@ class WatchedSystem final : public file::System {
   std::error_code status(file::Handle handle, file::Status& status) override {
     return make({Call::StatusOfHandle, handle, "", ""}, [&](CallInfo&) { return inner_.status(handle, status); });
   }
-  std::error_code set_ownership(file::Handle handle, const file::Status& like) override {
-    return make({Call::SetOwnership, handle, "", ""}, [&](CallInfo&) { return inner_.set_ownership(handle, like); });
-  }
-  std::error_code real_path(const std::string& path, std::string& real) override {
-    return make({Call::RealPath, -1, path, ""}, [&](CallInfo&) { return inner_.real_path(path, real); });
+  std::string owner_of(const std::string& path) override { return inner_.owner_of(path); }
+  std::error_code without_links(const std::string& path, std::string& real) override {
+    return make({Call::WithoutLinks, -1, path, ""}, [&](CallInfo&) { return inner_.without_links(path, real); });
   }
   std::error_code rename(const std::string& from, const std::string& to) override {
     return make({Call::Rename, -1, from, to}, [&](CallInfo&) { return inner_.rename(from, to); });
@@ -121,15 +116,21 @@ class WatchedSystem final : public file::System {
   std::error_code change_drive(char letter) override {
     return make({Call::ChangeDrive, -1, "", ""}, [&](CallInfo&) { return inner_.change_drive(letter); });
   }
+  void pause(std::chrono::milliseconds time) override { inner_.pause(time); }
 
  private:
-  static std::error_code opened(CallInfo& info, file::Handle handle, std::error_code error) {
+  // The handle by reference: it is known only when the call was made.
+  static std::error_code opened(CallInfo& info, const file::Handle& handle, std::error_code error) {
     info.handle = handle;
     return error;
   }
 
   template <typename Make>
   std::error_code make(CallInfo info, Make call) {
+    struct InProgress {
+      InProgress() { ++calls_in_progress; }
+      ~InProgress() { --calls_in_progress; }
+    } const in_progress;
     const auto instead = before(info);
     if (instead && !instead->half) return instead->error;
     half_ = instead.has_value();
