@@ -39,14 +39,23 @@ frmMaindb::frmMaindb(ui::Dialogs& dialogs, file::System& system) : dialogs_(dial
   }
 }
 
-void frmMaindb::click(int control) {
+template <typename Handler>
+void frmMaindb::run(Handler handler) {
   try {
-    run_handler(control);
+    handler();
   } catch (const std::bad_alloc&) {
     state_.suggestrun = false;
     refuse(
         "There is not enough memory to go on. The database holds the whole change or nothing of it: open it again and look.");
   }
+}
+
+void frmMaindb::load() {
+  run([this] { Form_Load(); });
+}
+
+void frmMaindb::click(int control) {
+  run([this, control] { run_handler(control); });
 }
 
 void frmMaindb::run_handler(int control) {

@@ -37,10 +37,12 @@ class frmMaindb final : public ui::Form {
 
   const ui::WindowDef& definition() const override { return window_def(); }
   ui::Window& window() override { return window_; }
-  void load() override { Form_Load(); }
+  void load() override;
   void click(int control) override;
 
  private:
+  template <typename Handler>
+  void run(Handler handler);
   void run_handler(int control);
 
   // Start-up and the ways out (frmMaindb.cpp).

@@ -16,7 +16,7 @@
 #include "data.h"
 #include "db/format.h"
 #include "table.h"
-#include "ui/memory/memory_window.h"
+#include "ui/memory/scripted_dialogs.h"
 #include "ui/qt/main_window.h"
 #include "ui/qt/widgets.h"
 

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "bytes_system.h"
-#include "support/session.h"
+#include "session.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
   if (size == 0) return 0;
@@ -17,7 +17,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
     return std::string(part);
   };
   const std::string events = cut(), database = cut(), components = cut();
-  support::Session session(kNames[data[0] % 5], database, components);
+  fuzz::Session session(kNames[data[0] % 5], database, components);
   for (const char event : events.substr(0, 100)) {
     const std::string fault = session.play(static_cast<unsigned char>(event));
     if (!fault.empty()) std::cerr << fault << '\n';

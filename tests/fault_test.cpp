@@ -97,23 +97,23 @@ const std::string kDatabase =
     lines({"501,\"CuX\",0,1.5,0,0,2,0,0,0,0,1", "1,231", "502,\"FeX\",0,2.5,0,0,2,0,0,0,0,1", "1,330"}) + kTrailer;
 
 void enter_new_species(Program& program) {
-  program.Click(app::cmdAddnew);
-  program.Type(app::cboComp, "Cu+2");
-  program.Type(app::txtStoicn, "1");
-  program.Type(app::txtSpname, "New");
-  program.Click(app::cmdSuggest);
-  program.Type(app::txtlogk, "1");
-  program.Type(app::txtCharge, "1");
+  program.click(app::cmdAddnew);
+  program.type(app::cboComp, "Cu+2");
+  program.type(app::txtStoicn, "1");
+  program.type(app::txtSpname, "New");
+  program.click(app::cmdSuggest);
+  program.type(app::txtlogk, "1");
+  program.type(app::txtCharge, "1");
   program.Answer(ui::Answer::Yes);
 }
 void change(Program& program) {
   program.Select("FeX");
-  program.Type(app::txtlogk, "7");
+  program.type(app::txtlogk, "7");
   program.Answer(ui::Answer::Yes);
 }
 void make_longer(Program& program) {
   program.Select("FeX");
-  program.Type(app::txtName, std::string(3000, 'n'));
+  program.type(app::txtName, std::string(3000, 'n'));
   program.Answer(ui::Answer::Yes);
 }
 void select_first(Program& program) {
@@ -156,7 +156,7 @@ const Operation kOperations[] = {
      app::cmdNewDb, true, true},
     {"load", nothing, [](Program& p) { p.Choose("x.mdb"); }, app::mnuFileOpen, false, true},
     {"display", nothing, [](Program& p) { p.Select("FeX"); }, app::lstReactions, false, true},
-    {"suggestion", nothing, [](Program& p) { p.Click(app::cmdAddnew); }, app::cmdSuggest, false, true},
+    {"suggestion", nothing, [](Program& p) { p.click(app::cmdAddnew); }, app::cmdSuggest, false, true},
 };
 
 class Attempt {

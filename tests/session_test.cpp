@@ -4,11 +4,12 @@
 #include <random>
 #include <string>
 
-#include "support/session.h"
+#include "session.h"
+#include "support/story.h"
 
 namespace {
 
-using support::Session;
+using fuzz::Session;
 
 class Databases {
  public:

@@ -67,6 +67,4 @@ std::optional<Event> parse_event(const std::string& line) {
   return std::nullopt;
 }
 
-bool is_skipped(const std::string& line) { return line.empty() || line.front() == '#'; }
-
 }  // namespace player

@@ -27,6 +27,4 @@ std::optional<int> find_control(std::string_view name);
 // One line; nothing for a line that is none of the above.
 std::optional<Event> parse_event(const std::string& line);
 
-bool is_skipped(const std::string& line);
-
 }  // namespace player

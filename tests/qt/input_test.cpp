@@ -5,6 +5,7 @@
 #include <QToolTip>
 #include <cstddef>
 #include <functional>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -14,6 +15,43 @@ namespace {
 
 using support::QtSeat;
 
+TEST(Qt, RunsEventsInTheOrderInWhichTheyWereMade) {
+  // What is shown before, and what is then done at once.
+  const struct {
+    const char *database, *before;
+    std::string burst;
+  } rows[] = {
+      {"complex.MDB", "select 0", "select 3\nselect 9\nanswer Yes\nclick cmdDelete"},
+      {"complex.MDB", "select 0",
+       "select 3\ntype txtlogk 7,5\nselect 4\ntype txtlogk 1\nanswer Yes\nclick cmdSavedb\nselect 2\nclick cmdAddnew"},
+      {"complex.MDB", "click cmdAddnew",
+       "select 5\nclick cmdAddnew\ntype txtSpname New\ntype cboComp H+\ntype txtStoicn 2\nclick cmdSuggest\n"
+       "type txtlogk 1\ntype txtCharge 1\nanswer Yes\nclick cmdSavedb\nclick cmdAddnew"},
+      {"langmuir.ISO", "select 0",
+       "select 1\npick cboIsoterm 4\nselect 3\nanswer Yes\nclick cmdSavedb\nselect 4\nselect 5\nanswer Yes\nclick cmdDelete"},
+  };
+  for (const auto& [database, before, burst] : rows) {
+    support::PlainSeat plain;
+    support::HastySeat hasty;
+    const auto play = [&](const std::string& line) {
+      plain.play(*player::parse_event(line));
+      hasty.play(*player::parse_event(line));
+    };
+    plain.system.add("sorptemp.dat", database);
+    hasty.system.add("sorptemp.dat", database);
+    play("load");
+    play(before);
+    hasty.settle();
+    hasty.be_slow();
+    std::istringstream script(burst);
+    for (std::string line; std::getline(script, line);) play(line);
+    hasty.settle();
+    EXPECT_TRUE(hasty.state() == plain.state()) << burst;
+    EXPECT_EQ(hasty.told, plain.told);
+    EXPECT_TRUE(hasty.system.all() == plain.system.all()) << burst;
+  }
+}
+
 // A screen reader reaches what a message box shuts off from mouse and keys.
 TEST(Qt, RunsNoHandlerInsideTheMessageBoxOfAnother) {
   QtSeat qt;
@@ -21,7 +59,7 @@ TEST(Qt, RunsNoHandlerInsideTheMessageBoxOfAnother) {
   qt.select(3);
   const auto press = [&](int control) { qobject_cast<QPushButton*>(qt.window.widget(control))->click(); };
   int boxes = 0;
-  qt.program.dialogs.told = [&](const std::string&) {
+  qt.dialogs.told = [&](const std::string&) {
     ++boxes;
     qt.list()->setCurrentIndex(qt.list()->model()->index(7, 0));
     press(app::cmdAddnew);
@@ -29,14 +67,14 @@ TEST(Qt, RunsNoHandlerInsideTheMessageBoxOfAnother) {
     qt.window.close();
     EXPECT_EQ(qt.list()->selected(), 3);
   };
-  const std::string third = qt.program.Listed()[3], seventh = qt.program.Listed()[7];
-  qt.program.Answer(ui::Answer::Yes);
+  const std::string third = qt.Listed()[3], seventh = qt.Listed()[7];
+  qt.Answer(ui::Answer::Yes);
   press(app::cmdDelete);
   EXPECT_EQ(boxes, 1);
-  EXPECT_FALSE(qt.program.form.window().ended);
-  EXPECT_NE(qt.program.Listed()[3], third);
-  EXPECT_EQ(qt.program.Listed()[6], seventh);
-  EXPECT_FALSE(qt.program.Shown(app::cboComp));
+  EXPECT_FALSE(qt.form.window().ended);
+  EXPECT_NE(qt.Listed()[3], third);
+  EXPECT_EQ(qt.Listed()[6], seventh);
+  EXPECT_FALSE(qt.Shown(app::cboComp));
 }
 
 TEST(Qt, TypingAnEntryOfAComboBoxPicksNothing) {
@@ -49,18 +87,18 @@ TEST(Qt, TypingAnEntryOfAComboBoxPicksNothing) {
   QTest::keyClick(qt.edit(app::cboIsoterm), Qt::Key_Return);
   qt.window.widget(app::txtID)->setFocus();
   qt.settle();
-  EXPECT_EQ(qt.program.form.state().isoselect, "Freundlich");
-  EXPECT_EQ(qt.program.Text(app::cboIsoterm), "Temkin");
-  EXPECT_EQ(qt.program.Text(app::txtlogk), "7");
-  EXPECT_EQ(qt.program.form.window()[app::lstReactions].selected, 2);
+  EXPECT_EQ(qt.form.state().isoselect, "Freundlich");
+  EXPECT_EQ(qt.Text(app::cboIsoterm), "Temkin");
+  EXPECT_EQ(qt.Text(app::txtlogk), "7");
+  EXPECT_EQ(qt.form.window()[app::lstReactions].selected, 2);
   QWidget* combo = qt.window.widget(app::cboIsoterm);
   QWheelEvent wheel({5, 5}, combo->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
   combo->setFocus();
   QApplication::sendEvent(combo, &wheel);
-  EXPECT_EQ(qt.program.form.state().isoselect, "Freundlich");
+  EXPECT_EQ(qt.form.state().isoselect, "Freundlich");
   QTest::keyClick(combo, Qt::Key_Down);
   qt.settle();
-  EXPECT_EQ(qt.program.form.state().isoselect, "Extended Freundlich");
+  EXPECT_EQ(qt.form.state().isoselect, "Extended Freundlich");
 }
 
 TEST(Qt, ListAlwaysShowsTheSelection) {
@@ -75,7 +113,7 @@ TEST(Qt, ListAlwaysShowsTheSelection) {
   qt.list()->setFocus();
   QTest::keyClick(qt.list(), Qt::Key_Down);
   qt.settle();
-  EXPECT_EQ(qt.program.form.window()[app::lstReactions].selected, 0);
+  EXPECT_EQ(qt.form.window()[app::lstReactions].selected, 0);
   qt.select(2);
   const std::string shown = qt.state();
   const QPoint empty(viewport->width() / 2, viewport->height() - 3);
@@ -104,7 +142,7 @@ TEST(Qt, ListAlwaysShowsTheSelection) {
   EXPECT_EQ(qt.state(), shown);
   QTest::mouseClick(viewport, Qt::LeftButton, Qt::ControlModifier, qt.middle(4));
   qt.settle();
-  EXPECT_EQ(qt.program.form.window()[app::lstReactions].selected, 4);
+  EXPECT_EQ(qt.form.window()[app::lstReactions].selected, 4);
 }
 
 TEST(Qt, ShowsNumbersFromTheirFirstDigit) {
@@ -132,7 +170,7 @@ TEST(Qt, EnterPressesTheFocusedButton) {
   button->setFocus();
   QTest::keyClick(button, Qt::Key_Return);
   qt.settle();
-  EXPECT_TRUE(qt.program.Shown(app::cboComp));
+  EXPECT_TRUE(qt.Shown(app::cboComp));
 }
 
 TEST(Qt, KeysAloneReachEverything) {
@@ -142,10 +180,10 @@ TEST(Qt, KeysAloneReachEverything) {
   EXPECT_TRUE(list->hasFocus());
   QTest::keyClicks(list, "Fe(");
   qt.settle();
-  EXPECT_EQ(qt.program.Text(app::txtName), "Fe(OH)3-");
+  EXPECT_EQ(qt.Text(app::txtName), "Fe(OH)3-");
   QTest::keyClick(list, Qt::Key_Down);
   qt.settle();
-  EXPECT_EQ(qt.program.Text(app::txtName), "FeSO4+");
+  EXPECT_EQ(qt.Text(app::txtName), "FeSO4+");
   // The order of the tabulator key is that of the table, over the controls that are shown.
   std::vector<std::string> visited{"lstReactions"};
   for (int i = 0; i < app::kControls; ++i) {
@@ -170,7 +208,7 @@ TEST(Qt, TakesCharactersOfTheCodePageOnly) {
   edit->setFocus();
   QApplication::clipboard()->setText(QString::fromUtf8("a\u20ac\u0416b\u0081\u00e9"));
   edit->paste();
-  EXPECT_EQ(qt.program.Text(app::txtName),
+  EXPECT_EQ(qt.Text(app::txtName),
             "a\x80"
             "b\x81\xe9");
   EXPECT_EQ(QToolTip::text().toStdString(),

@@ -144,6 +144,6 @@ txtNocomp shown [ 0]
 txtSpname shown [Dummy]
 txtStoicn shown []
 file goethite.MDB
-- 1,812,1,515,1,330,1,861,-1,862
 - 8125150,"=SOH2NO3-.5",0,8.52,0,0,-.5,0,0,0,0,5
+- 1,812,1,515,1,330,1,861,-1,862
 gone sorptemp.dat

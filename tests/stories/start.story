@@ -1,5 +1,4 @@
 # The window at the start, with the hand-over of Kelmar.
-> state
 Label1 shown [Present database species]
 Label2 shown [Click to see reaction!]
 Label3 shown [Species ID number]
@@ -23,7 +22,6 @@ cmdSuggest hidden [Suggest ID number]
 compdb []
 compslot 0
 dbname []
-end
 isomodel []
 isoselect []
 lblAddnew hidden [Add new species:]
@@ -49,7 +47,6 @@ lblStoich(8) hidden [Stoichiometry of 8th component]
 lbldhr shown [dHr (kJ / mol)]
 lstReactions shown [] 0
 mbfields false
-state
 suggestrun false
 txtCharge shown []
 txtComp(1) hidden []
@@ -86,6 +83,7 @@ txtStoicn hidden []
 txtdhr shown []
 txtf50 hidden []
 txtlogk shown []
+> state
 > load
 > state
 cboIsoterm hidden [] 7

@@ -1,4 +1,4 @@
-// A program on files in memory, and verbs for what a person does, so that a test reads as a story.
+// A program on files in memory, and verbs for what a person does.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -9,9 +9,8 @@
 #include <utility>
 #include <vector>
 
-#include "app/frmMaindb.h"
+#include "player/player.h"
 #include "support/memory_system.h"
-#include "ui/memory/memory_window.h"
 
 namespace support {
 
@@ -27,25 +26,25 @@ inline const std::string kTrailer =
 inline const std::string kComponents = lines({"2,\"H2O\",0,0,0,\"\"", "150,\"Ca+2\",2,0,0,\"\"", "231,\"Cu+2\",2,0,0,\"\"",
                                               "330,\"H+\",1,0,0,\"\"", "812,\"SOH\",0,0,0,\"\""});
 
-class Program {
+// A player with verbs, so that a test reads as a story.
+template <typename Player>
+class WithVerbs : public Player {
  public:
-  explicit Program(file::System& system) : form(dialogs, system) {
+  explicit WithVerbs(file::System& system) : Player(system) {
     dialogs.told = [this](const std::string& line) { told.push_back(line); };
   }
 
   void Select(std::string_view species) {
-    const auto& entries = form.window()[app::lstReactions].entries;
+    const auto& entries = Listed();
     const auto at = std::find(entries.begin(), entries.end(), species);
     ASSERT_NE(at, entries.end()) << species << " is not listed";
-    person.select(app::lstReactions, static_cast<int>(at - entries.begin()));
+    this->select(static_cast<int>(at - entries.begin()));
   }
-  void Type(int control, std::string text) { person.type(control, std::move(text)); }
-  void Click(int control) { person.click(control); }
   void Choose(std::string path) { dialogs.choices.push_back(std::move(path)); }
   void Answer(ui::Answer answer) { dialogs.answers.push_back(answer); }
   void Save() {
     Answer(ui::Answer::Yes);
-    Click(app::cmdSavedb);
+    this->click(app::cmdSavedb);
   }
   const std::string& Text(int control) { return form.window()[control].text; }
   bool Shown(int control) { return form.window()[control].shown; }
@@ -57,11 +56,11 @@ class Program {
     return last.starts_with(kRefusal) ? last.substr(kRefusal.size()) : last;
   }
 
-  ui::memory::ScriptedDialogs dialogs;
-  app::frmMaindb form;
-  ui::memory::Person person{form};
+  using Player::dialogs;
+  using Player::form;
   std::vector<std::string> told;  // every box and dialog
 };
+using Program = WithVerbs<player::Player>;
 
 // The working folder with its hand-over files and one database, and the program started in it.
 class Story : public testing::Test {

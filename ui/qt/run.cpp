@@ -19,7 +19,7 @@ void end_without_window(QtMsgType type, const QMessageLogContext&, const QString
   for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) display |= qEnvironmentVariableIsSet(name);
   std::fprintf(stderr, "kelmar-dbedit: the window cannot be opened: %s\n",
                display ? qPrintable(said.trimmed()) : "there is no display.");
-  std::_Exit(1);
+  std::exit(1);
 }
 
 }  // namespace

@@ -6,10 +6,10 @@
 #include <string>
 #include <vector>
 
-#include "support/account.h"
+#include "account.h"
 #include "support/story.h"
 
-namespace support {
+namespace fuzz {
 
 class Session {
  public:
@@ -26,10 +26,10 @@ class Session {
                        const std::function<bool(const Records& old, const Records& now)>& is_meant);
   void enter_new_species(unsigned char byte);
 
-  MemorySystem system_;
-  Program program_{system_};
+  support::MemorySystem system_;
+  support::Program program_{system_};
   db::Kind kind_;
   int copies_ = 0;
 };
 
-}  // namespace support
+}  // namespace fuzz

@@ -1,11 +1,11 @@
-#include "support/session.h"
+#include "session.h"
 
 #include <algorithm>
 #include <vector>
 
 #include "db/text.h"
 
-namespace support {
+namespace fuzz {
 
 Session::Session(const std::string& name, const std::string& database, const std::string& components)
     : kind_(db::kind_of(name)) {
@@ -21,33 +21,33 @@ std::string Session::play(unsigned char byte) {
   switch (byte % 16) {
     case 0:
     case 1:
-    case 2: program_.person.select(app::lstReactions, argument); break;
-    case 3: program_.Type(app::txtlogk, argument % 2 == 0 ? " -1,5" : "7"); break;
-    case 4: program_.Type(app::txtName, argument % 4 == 0 ? "" : "S" + std::to_string(argument)); break;
-    case 5: program_.Type(app::txtNocomp, std::to_string(argument % 10)); break;
-    case 6: program_.Type(app::txtf50, ".25"); break;
-    case 7: program_.person.pick(app::cboIsoterm, argument % 8); break;
-    case 8: program_.Click(app::cmdAddnew); break;
+    case 2: program_.select(argument); break;
+    case 3: program_.type(app::txtlogk, argument % 2 == 0 ? " -1,5" : "7"); break;
+    case 4: program_.type(app::txtName, argument % 4 == 0 ? "" : "S" + std::to_string(argument)); break;
+    case 5: program_.type(app::txtNocomp, std::to_string(argument % 10)); break;
+    case 6: program_.type(app::txtf50, ".25"); break;
+    case 7: program_.pick(app::cboIsoterm, argument % 8); break;
+    case 8: program_.click(app::cmdAddnew); break;
     case 9: enter_new_species(byte); break;
     case 10:
     case 11:
     case 12: return save(false);
     case 13: return remove();
     case 14: return save(true);
-    default: program_.Type(app::txtID, std::to_string(argument * 1000)); break;
+    default: program_.type(app::txtID, std::to_string(argument * 1000)); break;
   }
   return "";
 }
 
 void Session::enter_new_species(unsigned char byte) {
-  program_.Click(app::cmdAddnew);
-  program_.person.pick(app::cboComp, byte % 5);
-  program_.Type(app::txtStoicn, "1");
-  program_.Click(app::cmdNextcomp);
-  program_.Type(app::txtSpname, byte % 3 == 0 ? " New " : "a");
-  program_.Click(app::cmdSuggest);
-  program_.Type(app::txtlogk, "1");
-  program_.Type(app::txtCharge, "0");
+  program_.click(app::cmdAddnew);
+  program_.pick(app::cboComp, byte % 5);
+  program_.type(app::txtStoicn, "1");
+  program_.click(app::cmdNextcomp);
+  program_.type(app::txtSpname, byte % 3 == 0 ? " New " : "a");
+  program_.click(app::cmdSuggest);
+  program_.type(app::txtlogk, "1");
+  program_.type(app::txtCharge, "0");
 }
 
 std::string Session::save(bool to_new) {
@@ -60,7 +60,7 @@ std::string Session::save(bool to_new) {
   if (to_new) {
     ++copies_;
     program_.Choose("copy" + std::to_string(copies_) + kExtensions[copies_ % 5]);
-    program_.Click(app::cmdNewDb);
+    program_.click(app::cmdNewDb);
     if (system_.content(from) != before) return "the old database was changed";
   } else {
     program_.Save();
@@ -78,7 +78,7 @@ std::string Session::remove() {
   const std::string selected(db::trimmed(list.selected_text())), path = program_.form.state().open.path,
       before = system_.content(path);
   program_.Answer(ui::Answer::Yes);
-  program_.Click(app::cmdDelete);
+  program_.click(app::cmdDelete);
   program_.dialogs.answers.clear();
   return fault_in(path, before, [&](Records old, const Records& now) {
     std::erase_if(old, [&](const auto& record) { return record.name == selected; });
@@ -102,4 +102,4 @@ std::string Session::fault_in(const std::string& path, const std::string& before
   return is_meant(old.records, now.records) ? "" : "a record has changed that was not to change";
 }
 
-}  // namespace support
+}  // namespace fuzz

@@ -1,4 +1,4 @@
-#include "support/account.h"
+#include "account.h"
 
 #include <charconv>
 #include <cmath>
@@ -6,7 +6,7 @@
 #include <optional>
 #include <system_error>
 
-namespace support {
+namespace fuzz {
 namespace {
 
 std::optional<double> number_of(const std::string& text) {
@@ -125,4 +125,4 @@ class Accountant {
 
 Account account_of(const std::string& content, db::Kind kind) { return Accountant(content, kind).account(); }
 
-}  // namespace support
+}  // namespace fuzz

@@ -6,7 +6,7 @@
 
 #include "db/kind.h"
 
-namespace support {
+namespace fuzz {
 
 struct Account {
   bool readable = false;  // the whole list, and nothing would be lost behind it
@@ -23,4 +23,4 @@ struct Account {
 
 Account account_of(const std::string& content, db::Kind kind);
 
-}  // namespace support
+}  // namespace fuzz

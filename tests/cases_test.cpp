@@ -1,0 +1,220 @@
+// The rules of formats and numbers: the tables in tests/cases. A line "OPERATION ARGUMENT | ARGUMENT => RESULT" is one case;
+// \r, \n, \t and \x1a are the characters, {trailer} the lines that end a database, {one} a record, and {x*100} a hundred x.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstddef>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <map>
+#include <optional>
+#include <random>
+#include <sstream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "db/components.h"
+#include "db/rewrite.h"
+#include "edit/choices.h"
+#include "edit/suggestion.h"
+#include "edit/values.h"
+#include "support/story.h"
+
+namespace {
+
+using Arguments = std::vector<std::string>;
+using support::MemorySystem;
+
+std::string plain(std::string_view text) {
+  std::string result;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const std::string_view rest = text.substr(i);
+    if (rest.starts_with("\\x")) {
+      result += static_cast<char>(std::stoi(std::string(rest.substr(2, 2)), nullptr, 16));
+      i += 3;
+    } else if (rest.starts_with("\\")) {
+      result += rest[1] == 'r' ? '\r' : rest[1] == 'n' ? '\n' : '\t';
+      ++i;
+    } else if (rest.starts_with("{")) {
+      std::size_t end = 0;
+      for (int depth = 1; depth > 0;) depth += rest[++end] == '{' ? 1 : rest[end] == '}' ? -1 : 0;
+      const std::string_view name = rest.substr(1, end - 1);
+      if (name == "trailer")
+        result += support::kTrailer;
+      else if (name == "one")
+        result += "1,\"a\",0,0,0,0,0,0,0,0,0,0\r\n";
+      else
+        for (int n = std::stoi(std::string(name.substr(name.rfind('*') + 1))); n > 0; --n)
+          result += plain(name.substr(0, name.rfind('*')));
+      i += name.size() + 1;
+    } else {
+      result += text[i];
+    }
+  }
+  return result;
+}
+
+std::string number_or(const std::optional<double>& value, const char* none) {
+  return value ? db::format_number(*value) : none;
+}
+
+// All fields, each in brackets, a quoted one with its quotes.
+std::string fields(const Arguments& arguments) {
+  MemorySystem system;
+  system.add("x", arguments[0]);
+  std::string all;
+  try {
+    db::FieldReader reader(system, "x");
+    for (db::Field field; reader.next(std::span(&field, 1));) {
+      const std::string mark = field.quoted ? "\"" : "";
+      all += "[" + mark + (field.text.size() > 100 ? std::to_string(field.text.size()) : std::string(field.text)) + mark + "]";
+    }
+  } catch (const db::FieldError& error) {
+    return error.what();
+  }
+  return all;
+}
+
+// What a rewrite makes of a database of that name, or its message.
+std::string rewrite(const Arguments& arguments) {
+  const auto& [name, content] = std::tie(arguments[0], arguments[1]);
+  MemorySystem system;
+  system.add(name, content);
+  try {
+    db::Rewrite rewrite(system, db::database_at(name), "comp.mdb", {.model = "", .critical_f = .5});
+    EXPECT_FALSE(rewrite.keep_until(std::nullopt));
+    EXPECT_EQ(rewrite.commit(), std::nullopt);
+  } catch (const file::Error& error) {
+    EXPECT_EQ(system.content(name), content);
+    return error.what();
+  }
+  const std::string once = system.content(name);
+  EXPECT_TRUE(once == content || rewrite({name, once}) == once) << "not stable";
+  return once;
+}
+
+std::string rule(const Arguments& arguments, double (*convert)(std::string_view)) {
+  try {
+    return db::format_number(convert(arguments[0]));
+  } catch (const file::Refusal& refusal) {
+    return refusal.what();
+  }
+}
+
+// The numbers of 1 to 1400 that are offered, as ranges.
+std::string offered(const Arguments& arguments) {
+  const auto is = [&](int n) { return edit::is_offered(n, arguments[0], arguments[1] == "cdb"); };
+  std::string ranges;
+  for (int n = -1, from = 0; n <= 1400; ++n) {
+    if (is(n) && from == 0) from = n;
+    if (!is(n) || (n < 1400 && is(n + 1))) continue;
+    ranges += (ranges.empty() ? "" : " ") + std::to_string(from) + (from == n ? "" : "-" + std::to_string(n));
+    from = 0;
+  }
+  return ranges;
+}
+
+// The first free ID number for two components where these numbers are in use ("1500020*10": ten from there on).
+std::string free_id(const Arguments& arguments) {
+  std::istringstream components(arguments[0]), used(arguments[1]);
+  edit::IdBase base;
+  components >> base.first >> base.second;
+  try {
+    edit::FreeId candidates(base);
+    for (std::string range; used >> range;)
+      for (double i = 0, count = range.find('*') == range.npos ? 1 : std::stod(range.substr(range.find('*') + 1)); i < count; ++i)
+        candidates.use(std::stod(range) + i);
+    return db::format_number(candidates.result());
+  } catch (const file::Refusal& refusal) {
+    return refusal.what();
+  }
+}
+
+std::string site(const Arguments& arguments) {
+  const edit::IdBase base = edit::with_site({7, 8}, arguments[0], arguments[1]);
+  return db::format_number(base.first) + " " + db::format_number(base.second);
+}
+
+// Lookups in a component database: by number (first argument), by name, by name as read.
+std::string lookup(const Arguments& arguments) {
+  MemorySystem system;
+  system.add("c", arguments[1]);
+  const std::vector<double> numbers{db::parse_number(arguments[0]).value_or(0)};
+  const auto by_number = db::component_names(system, "c", numbers);
+  std::string result = by_number.names[0].value_or("none") + by_number.failure;
+  for (const auto match : {db::NameMatch::Trimmed, db::NameMatch::AsRead}) {
+    try {
+      const auto found = db::component_numbers(system, "c", {&arguments[2], 1}, match);
+      result += ", " + (found.empty() ? "none" : number_or(found.begin()->second.value, "empty"));
+    } catch (const file::Error& error) {
+      result += std::string(", ") + error.what();
+    }
+  }
+  return result;
+}
+
+const std::map<std::string, std::function<std::string(const Arguments&)>> kOperations{
+    {"fields", fields},
+    {"rewrite", rewrite},
+    {"number", [](const Arguments& a) { return number_or(db::parse_number(a[0]), "none"); }},
+    {"formatted", [](const Arguments& a) { return std::string(db::is_formatted(a[0]) ? "yes" : "no"); }},
+    {"shown", [](const Arguments& a) { return db::numtext(std::stod(a[0])); }},
+    {"rule", [](const Arguments& a) { return rule(a, edit::number_rule); }},
+    {"comma", [](const Arguments& a) { return rule(a, edit::comma_number); }},
+    {"kind", [](const Arguments& a) { return std::string(db::name_of(db::kind_of(a[0])).extension); }},
+    {"donnica", [](const Arguments& a) { return std::string(db::is_donnica(a[0]) ? "yes" : "no"); }},
+    {"range", [](const Arguments& a) { return std::to_string(static_cast<int>(edit::range_of(std::stod(a[0])))); }},
+    {"offered", offered},
+    {"site", site},
+    {"free", free_id},
+    {"lookup", lookup},
+    {"named", [](const Arguments& a) { return file::named(a[0]); }},
+};
+
+TEST(Cases, ComeOutAsTabled) {
+  int cases = 0;
+  for (const auto& entry : std::filesystem::directory_iterator(CASES)) {
+    std::ifstream file(entry.path());
+    for (std::string line; std::getline(file, line);) {
+      if (line.empty() || line.front() == '#') continue;
+      SCOPED_TRACE(entry.path().filename().string() + ": " + line);
+      const std::size_t blank = line.find(' '), arrow = line.find(" =>");
+      ASSERT_NE(arrow, line.npos);
+      Arguments arguments;
+      std::string rest = line.substr(blank + 1, arrow - blank - 1);
+      for (std::size_t bar; (bar = rest.find(" | ")) != rest.npos; rest = rest.substr(bar + 3))
+        arguments.push_back(plain(rest.substr(0, bar)));
+      arguments.push_back(plain(rest));
+      EXPECT_EQ(kOperations.at(line.substr(0, blank))(arguments), plain(line.substr(std::min(arrow + 4, line.size()))));
+      ++cases;
+    }
+  }
+  EXPECT_GT(cases, 0);
+}
+
+// Wherever a block of the reader ends, the fields are the same.
+TEST(Fields, DoNotDependOnWhereABlockEnds) {
+  for (const std::string tail : {"\r\n\"a,b\" x,  7  ,y", "\r\r\n,  \"q\"\r\n"}) {
+    const std::string plain = fields({tail});
+    for (std::size_t before = 120 * 1024 - 8; before < 120 * 1024 + 4; ++before) {
+      std::string text;
+      while (text.size() + 9 < before) text += "12345678,";
+      text.append(before - text.size(), 'z');
+      EXPECT_EQ(fields({text + tail}), fields({text}) + plain.substr(plain.starts_with("[]") ? 2 : 0)) << before;
+    }
+  }
+}
+
+// A field that is copied as it stands must be one that would be written just so.
+TEST(Number, IsFormattedOnlyInTheFormWritten) {
+  std::mt19937 random(1);
+  for (int i = 0; i < 20000; ++i) {
+    std::string text;
+    for (int length = 1 + static_cast<int>(random() % 9); length > 0; --length) text += "0123456789.-E+"[random() % 14];
+    EXPECT_TRUE(!db::is_formatted(text) || number_or(db::parse_number(text), "none") == text) << text;
+  }
+}
+
+}  // namespace
