@@ -114,8 +114,12 @@ std::string frmMaindb::take_hand_over(const std::string& folder, const std::stri
 }
 
 void frmMaindb::open_database(std::string path) {
-  state_.open.kind = state_.open.content = db::kind_of(path);
+  state_.open.kind = db::kind_of(path);
+  state_.open.misplaced = false;
   state_.open.path = std::move(path);
+  state_.open.isomodel.clear();
+  state_.isoselect.clear();
+  hide({lblKsel, txtKsel, txtf50, lblIsoterm, cboIsoterm});
   show({lblNameDb});
   set(lblNameDb, state_.open.path);
   if (!state_.open.cdbfile() || db::is_donnica(state_.open.path)) return;
@@ -174,9 +178,6 @@ void frmMaindb::mnuFileOpen_Click() {
   const auto chosen =
       dialogs_.choose_file({.form = ui::FileRequest::Form::Open, .filter = kDatabaseFilter, .folder = state_.dialog_folder});
   if (!chosen) return;
-  state_.open.isomodel.clear();
-  state_.isoselect.clear();
-  hide({lblKsel, txtKsel, txtf50, lblIsoterm, cboIsoterm});
   open_database(*chosen);
   Listfill();
 }

@@ -37,18 +37,27 @@ void frmMaindb::cmdNewDb_Click() {
                                             .folder = state_.dialog_folder,
                                             .extension = db::name_of(state_.open.kind).extension});
   if (!chosen) return;
-  // Whatever fails from here on ends the handler in silence, but not what the program itself refuses.
+  // What the program refuses is told; whatever else fails ends the handler in silence.
+  std::optional<std::string> warning;
   try {
-    const file::Spared components = db::spare_components(state_.compdb);
-    file::refuse_spared(system_, *chosen, components);
-    const std::string old_dbname = std::exchange(state_.open.path, *chosen);
-    const db::Kind content = std::exchange(state_.open.content, db::kind_of(*chosen));  // until it is copied
-    const auto warning = file::copy_over(system_, old_dbname, *chosen, components);
-    state_.open.content = content;
-    set(lblNameDb, *chosen);
+    warning = file::copy_over(system_, state_.open.path, *chosen, db::spare_components(state_.compdb));
+  } catch (const file::Refusal& refusal) {
+    return refuse(refusal.what());
+  } catch (const file::Error&) {
+    state_.open.path = *chosen;
+    state_.open.misplaced = true;
+    return;
+  }
+  const bool was_misnamed = db::misnamed(state_.open).has_value();
+  state_.open.path = *chosen;
+  const auto misnamed = db::misnamed(state_.open);
+  set(lblNameDb, *chosen);
+  // What was shown under a wrong name goes with it.
+  if (was_misnamed && !misnamed && !db::leading_of(state_.open.kind).model) open_database(*chosen);
+  try {
     savedb();
     if (warning) refuse(*warning);
-    if (const std::string misnamed = db::misnamed(state_.open); !misnamed.empty()) refuse(misnamed);
+    if (misnamed) refuse(*misnamed);
   } catch (const file::Refusal& refusal) {
     refuse(refusal.what());
   } catch (const file::Error&) {

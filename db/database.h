@@ -1,6 +1,7 @@
 // The open species database, as every operation on it has to know it.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -15,9 +16,8 @@ struct Database {
   Kind kind = Kind::Complexation;
   std::string isomodel{};  // the isotherm model in force, or "NICA-Donnan"
   bool mbfields = false;   // M.B. stoichiometries are in use
-  // What lies at the path is of this kind. Another than the one held where the database could not be copied to a new path: then
-  // another file lies there, if any, or a copy of that one.
-  Kind content = Kind::Complexation;
+  // The database could not be copied to this path: what lies there, if anything, is another one.
+  bool misplaced = false;
 
   bool blifile() const { return kind == Kind::Blm; }
   bool cdbfile() const { return kind == Kind::Counterion; }
@@ -26,7 +26,7 @@ struct Database {
 // As it is when it has just been opened.
 inline Database database_at(std::string path) {
   const Kind kind = kind_of(path);
-  return {.path = std::move(path), .kind = kind, .content = kind};
+  return {.path = std::move(path), .kind = kind};
 }
 
 // Which fields stand before the first record: the isotherm model (or "NICA-Donnan"); two texts and the critical f value.
@@ -43,7 +43,7 @@ inline Leading leading_by_name(const Database& open) {
   return {.model = model, .blm = !model && open.blifile()};
 }
 
-// What the user has to be told when the name of the file says another kind than it holds; else nothing.
-std::string misnamed(const Database& open);
+// What the user has to be told when the name of the file says another kind than it holds.
+std::optional<std::string> misnamed(const Database& open);
 
 }  // namespace db

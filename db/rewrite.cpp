@@ -10,10 +10,10 @@ Rewrite::Rewrite(file::System& system, const Database& database, const std::stri
     : replacement_(system, kTemporaryFile, database.path, spare_components(compdb)),
       reader_(system, database.path),
       name_(file::named(database.path)) {
-  if (database.content != database.kind)
+  if (database.misplaced)
     throw file::Refusal(name_ +
-                        " is another database of another kind: the one that was open could not be copied there. Open " +
-                        "the one or the other with the File menu.");
+                        " is another database than the one that was open, which could not be copied there. Open the one " +
+                        "or the other with the File menu.");
   constexpr std::size_t kGrowth = 4096;  // room for one more species
   out_.reserve(std::min(replacement_.old_size(), file::kLargestDatabase) + kGrowth);
   LeadingFields fields = reader_.read_leading(leading_of(database.kind));

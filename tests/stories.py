@@ -3,7 +3,7 @@
 
 A story tells what a user does on the sample databases, and what the window shows and the files hold then.
 "put NAME" makes a file of the lines "| ..." that follow ("| trailer" being the six lines that end a database; \\x1a and the
-like are characters, a \\ at the end leaves the line's end out), "folder", "link" and "hardlink" make those. A line "> EVENT" is
+like are characters, a \\ at the end leaves the line's end out), "folder", "link", "hardlink" and "remove" do that. A line "> EVENT" is
 played; below it stands what it brings about. `state` tells what has changed in the window since the last one, or since the
 program began; "+" and "-" at the end tell lines of files that have come and gone.
 With --record the files are written anew: read every line of the difference before you commit it.
@@ -50,6 +50,8 @@ def put(folder, lines):
             text = TRAILER if rest == "trailer" else rest[:-1] if rest.endswith("\\") else rest + "\r\n"
             with open(path, "ab") as f:
                 f.write(plain(text).encode("latin-1"))
+        elif word == "remove":
+            os.remove(os.path.join(folder, rest))
         elif word == "folder":
             os.mkdir(os.path.join(folder, rest))
         elif word == "link":
@@ -112,9 +114,9 @@ def played(player, story):
         events = [line[2:] for line in lines if line.startswith("> ")]
         run = subprocess.run([*player, "--echo"], input="\n".join(events).encode("latin-1"), cwd=folder,
                              stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, timeout=60)
-        told = run.stdout.decode("latin-1").replace("\r\n", "\n").split("\n")[:-1]
+        told = run.stdout.decode("latin-1").replace("\r\n", "\n").replace(folder, "FOLDER").split("\n")[:-1]
         head = [line for line in lines[:-1] if not line.startswith(">")]
-        head = head[:next((i for i, line in enumerate(head) if not line.startswith(("#", "put ", "|", "folder ", "link ", "hardlink "))),
+        head = head[:next((i for i, line in enumerate(head) if not line.startswith(("#", "put ", "|", "folder ", "link ", "hardlink ", "remove "))),
                           len(head))]
         return "\n".join(head + without_states(told, events[0] == "state") + changes(before, read_files(folder))) + "\n"
 

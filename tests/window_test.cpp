@@ -61,28 +61,6 @@ TEST(Controls, StandInTheTableUnderTheirNames) {
   }
 }
 
-TEST_F(Story, StartUpWithoutHandOverFiles) {
-  program.form.load();
-  EXPECT_TRUE(program.form.window().ended);
-  EXPECT_EQ(program.form.window().status, 1);
-  EXPECT_EQ(
-      program.LastBox(),
-      "[The editor cannot start in /kelmar: cannot open dabase.txt: No such file or directory. Start it from Kelmar, in "
-      "Kelmar's folder.]");
-
-  Program second(system);
-  system.add("dabase.txt", "C:");
-  second.form.load();
-  EXPECT_FALSE(second.form.window().ended);
-  EXPECT_TRUE(second.told.empty());
-  second.form.window()[lstReactions].entries = {"CuX"};
-  second.Select("CuX");
-  EXPECT_EQ(second.LastBox(),
-            "[The species cannot be shown: cannot open a file without a name: No such file or directory. Mend the file with a "
-            "text editor, or open another one.]");
-  EXPECT_TRUE(second.Shown(lblNameDb));
-}
-
 TEST_F(Story, StartUpInAFolderThatCannotBeUsed) {
   const struct {
     support::Call call;
@@ -170,91 +148,6 @@ TEST(Kinds, AreHeldUnderEveryName) {
       EXPECT_EQ(system.content(first), held.leading + old + kTrailer);
     }
   }
-}
-
-TEST_F(Story, ComponentDatabaseIsNeverWritten) {
-  const std::string content = species("501", "CuX") + kTrailer;
-  Start("x.mdb", content);
-  const auto refusal = [](const std::string& path) {
-    return "[" + path + " is the component database, which is never changed. Choose another file for one of the two.]";
-  };
-  system.hard_link("other.mdb", "comp.mdb");
-  system.link("link.mdb", "comp.mdb");
-  for (const char* path : {"comp.mdb", "/kelmar/comp.mdb", "other.mdb", "link.mdb"}) {
-    program.Select("CuX");
-    program.Choose(path);
-    program.click(cmdNewDb);
-    EXPECT_EQ(program.LastBox(), refusal(path));
-    EXPECT_EQ(program.Text(lblNameDb), "x.mdb");
-  }
-  program.Choose("missing.mdb");
-  program.click(cmdCompdb);
-  program.Choose("/kelmar/./missing.mdb");
-  program.click(cmdNewDb);
-  EXPECT_EQ(program.LastBox(), refusal("/kelmar/./missing.mdb"));
-  EXPECT_EQ(program.Text(lblNameDb), "x.mdb");
-  program.Choose("x.mdb");
-  program.click(cmdCompdb);
-  program.Save();
-  EXPECT_EQ(program.LastBox(), refusal("x.mdb"));
-  program.Answer(ui::Answer::Yes);
-  program.click(cmdDelete);
-  EXPECT_EQ(program.LastBox(), refusal("x.mdb"));
-  // Under the name of the temporary file too, which would be removed as a leftover.
-  system.add("dbnamep.mdb", support::kComponents);
-  program.Choose("dbnamep.mdb");
-  program.click(cmdCompdb);
-  program.Save();
-  EXPECT_EQ(program.LastBox(), refusal("dbnamep.mdb"));
-  EXPECT_EQ(system.content("x.mdb"), content);
-  for (const char* path : {"comp.mdb", "dbnamep.mdb"}) EXPECT_EQ(system.content(path), support::kComponents);
-}
-
-TEST_F(Story, SavingToANewDatabase) {
-  const std::string content = species("501", "CuX") + kTrailer;
-  Start("x.mdb", content);
-  program.Select("CuX");
-  program.type(txtlogk, "9");
-  const std::string changed = lines({"501,\"CuX\",0,9,0,0,2,0,0,0,0,2", "1,231,-1,9999"}) + kTrailer;
-  program.Choose("new.mdb");
-  program.click(cmdNewDb);
-  EXPECT_EQ(system.content("x.mdb"), content);
-  EXPECT_EQ(system.content("new.mdb"), changed);
-  EXPECT_EQ(program.Text(lblNameDb), "new.mdb");
-  // Onto the very file that is open nothing is copied, and it is saved.
-  program.Select("CuX");
-  program.Choose("/kelmar/new.mdb");
-  program.click(cmdNewDb);
-  EXPECT_EQ(system.content("new.mdb"), changed);
-  // A failure is silent, a refusal of ours is not. What then lies under the new name is not taken for the database.
-  program.told.clear();
-  program.Select("CuX");
-  program.Choose("/nowhere/x.iso");
-  program.click(cmdNewDb);
-  EXPECT_EQ(program.told.size(), 1u);
-  EXPECT_EQ(program.form.state().open.path, "/nowhere/x.iso");
-  system.add_folder("/nowhere");
-  system.add("/nowhere/x.iso", "\"Langmuir\"\r\n" + content);
-  const std::string another =
-      " is another database of another kind: the one that was open could not be copied there. Open the one or the other "
-      "with "
-      "the File menu.]";
-  program.Save();
-  EXPECT_EQ(program.LastBox(), "[/nowhere/x.iso" + another);
-  for (const std::string copy : {"copy.nic", "copy.mdb"}) {
-    program.Choose(copy);
-    program.click(cmdNewDb);
-    EXPECT_EQ(program.LastBox(), "[" + copy + another);
-    EXPECT_EQ(system.content(copy), system.content("/nowhere/x.iso"));
-  }
-  system.add("locked.mdb", "old");
-  system.at("locked.mdb").writable = false;
-  program.Choose("new.mdb");
-  program.click(mnuFileOpen);
-  program.Choose("locked.mdb");
-  program.click(cmdNewDb);
-  EXPECT_EQ(program.LastBox(), "[locked.mdb is read-only. Make it writable or save to a new database.]");
-  EXPECT_EQ(system.content("locked.mdb"), "old");
 }
 
 TEST_F(Story, FullDatabaseTakesNoFurtherSpecies) {
