@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <fstream>
 #include <functional>
+#include <iterator>
 #include <map>
 #include <optional>
 #include <random>
@@ -21,6 +22,7 @@
 #include "edit/suggestion.h"
 #include "edit/values.h"
 #include "support/story.h"
+#include "ui/type_ahead.h"
 
 namespace {
 
@@ -155,6 +157,17 @@ std::string lookup(const Arguments& arguments) {
   return result;
 }
 
+// Where letters lead ("F@100": at that time) in a list, from an entry.
+std::string letters(const Arguments& arguments) {
+  std::istringstream list(arguments[0]), typed(arguments[2]);
+  const std::vector<std::string> entries{std::istream_iterator<std::string>(list), {}};
+  ui::TypeAhead ahead;
+  int current = std::stoi(arguments[1]);
+  for (std::string letter; typed >> letter;)
+    current = ahead.find(entries, current, letter.substr(0, 1), std::stoull(letter.substr(2)));
+  return std::to_string(current);
+}
+
 const std::map<std::string, std::function<std::string(const Arguments&)>> kOperations{
     {"fields", fields},
     {"rewrite", rewrite},
@@ -170,6 +183,7 @@ const std::map<std::string, std::function<std::string(const Arguments&)>> kOpera
     {"site", site},
     {"free", free_id},
     {"lookup", lookup},
+    {"letters", letters},
     {"named", [](const Arguments& a) { return file::named(a[0]); }},
 };
 

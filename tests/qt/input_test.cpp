@@ -77,6 +77,54 @@ TEST(Qt, RunsNoHandlerInsideTheMessageBoxOfAnother) {
   EXPECT_FALSE(qt.Shown(app::cboComp));
 }
 
+// Dictation and screen readers change what stands in the widgets by other means than keys.
+TEST(Qt, WhatIsChangedByAnyMeansCounts) {
+  QtSeat qt;
+  qt.load();
+  qt.select(3);
+  QAccessible::queryAccessibleInterface(qt.edit(app::txtlogk))->setText(QAccessible::Value, "99");
+  qt.settle();
+  EXPECT_EQ(qt.Text(app::txtlogk), "99");
+  qt.list()->clearSelection();
+  qt.settle();
+  EXPECT_EQ(qt.form.window()[app::lstReactions].selected, 3);
+  qt.form.window()[app::txtName].text = std::string(100000, 'n');
+  qt.window.push();
+  qt.settle();
+  EXPECT_EQ(qt.Text(app::txtName).size(), 100000u);
+}
+
+TEST(Qt, ListTakesEveryKeyAndEveryClick) {
+  QtSeat qt;
+  qt.load();
+  qt.select(1);
+  QTest::keyClick(qt.list(), Qt::Key_Down);
+  qt.settle();
+  QTest::mouseDClick(qt.list()->viewport(), Qt::LeftButton, {}, qt.middle(1));
+  qt.settle();
+  EXPECT_EQ(qt.form.window()[app::lstReactions].selected, 1);
+  // A key that chooses nothing new shows nothing again, over what was typed.
+  qt.type(app::txtlogk, "7");
+  for (const int key : {Qt::Key_Shift, Qt::Key_F2, Qt::Key_Left}) QTest::keyClick(qt.list(), static_cast<Qt::Key>(key));
+  QTest::keyClicks(qt.list(), "~");
+  qt.settle();
+  EXPECT_EQ(qt.Text(app::txtlogk), "7");
+  EXPECT_EQ(qt.form.window()[app::lstReactions].selected, 1);
+  QTest::keyClick(qt.list(), Qt::Key_End);
+  qt.settle();
+  EXPECT_EQ(qt.Text(app::txtName), qt.Listed().back());
+}
+
+TEST(Qt, QuitAndExitCloseTheWindow) {
+  for (const int control : {app::cmdQuit, app::mnuFileExit}) {
+    QtSeat qt;
+    qt.load();
+    qt.click(control);
+    EXPECT_TRUE(qt.form.window().ended);
+    EXPECT_FALSE(qt.window.isVisible());
+  }
+}
+
 TEST(Qt, TypingAnEntryOfAComboBoxPicksNothing) {
   QtSeat qt;
   qt.system.add("sorptemp.dat", "freundl.ISO");

@@ -22,7 +22,8 @@ namespace {
 
 constexpr int kFrameHeight = 60;  // pixels of a title bar and the menu
 constexpr double kSmallest = .6;  // of the size at the start
-constexpr int kInnerMargin = 8;   // pixels beside the text of a box
+constexpr int kLongestText = 1 << 20;
+constexpr int kInnerMargin = 8;  // pixels beside the text of a box
 
 QColor to_qt(const Color& color) { return {color.red, color.green, color.blue}; }
 
@@ -129,6 +130,7 @@ MainWindow::View MainWindow::build_line(int control) {
 MainWindow::View MainWindow::build_list(int control) {
   auto* list = new EntryList(area_);
   connect(list, &EntryList::chosen, this, [this, control](int entry) {
+    if (entry < 0) return push();  // which shows it again
     if (!running_) form_.window()[control].selected = entry;
     run(control);
   });
@@ -142,8 +144,10 @@ MainWindow::View MainWindow::build_text_box(int control, QLineEdit* edit) {
     QToolTip::showText(edit->mapToGlobal(QPoint(0, edit->height())),
                        "A character was left out: the files hold only those of the code page Windows-1252.", edit);
   });
-  connect(edit, &QLineEdit::textEdited, this, [this, control](const QString& text) {
-    form_.window()[control].text = shown_[static_cast<std::size_t>(control)].text = to_bytes(text);
+  edit->setMaxLength(kLongestText);
+  // By whatever means it was typed, dictation among them.
+  connect(edit, &QLineEdit::textChanged, this, [this, control](const QString& text) {
+    if (!pushing_) form_.window()[control].text = shown_[static_cast<std::size_t>(control)].text = to_bytes(text);
   });
   edit->installEventFilter(this);
   return {.widget = edit, .edit = edit, .set_text = [edit](const QString& text) {
@@ -240,11 +244,13 @@ void MainWindow::run(int control) {
 }
 
 void MainWindow::push(bool anew) {
+  pushing_ = true;
   for (int i = 0; i < controls(); ++i) {
     push_control(i, anew);
     if (def(i).elsewhere.width > 0) place(i);
   }
   name_boxes();
+  pushing_ = false;
 }
 
 void MainWindow::push_control(int control, bool anew) {

@@ -67,6 +67,7 @@ class MainWindow : public QMainWindow {
   Layout layout_;
   QWidget* area_;
   int menu_height_ = 0;   // at the start
+  bool pushing_ = false;  // what changes in the widgets is not the user's doing
   bool running_ = false;  // a handler runs, perhaps in a message box: no other may begin
   std::vector<View> views_;
   std::vector<Control> shown_;  // what was pushed last; the entries of a list are with its widget

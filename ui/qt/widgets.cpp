@@ -98,7 +98,7 @@ QItemSelectionModel::SelectionFlags EntryList::selectionCommand(const QModelInde
 // Not by an event of this list: a screen reader.
 void EntryList::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
   QListView::selectionChanged(selected, deselected);
-  if (!quiet_ && !selected.isEmpty()) emit chosen(selected.indexes().front().row());
+  if (!quiet_) emit chosen(selected.isEmpty() ? -1 : selected.indexes().front().row());
 }
 
 void EntryList::mousePressEvent(QMouseEvent* event) {
@@ -110,9 +110,14 @@ void EntryList::mousePressEvent(QMouseEvent* event) {
 
 void EntryList::keyPressEvent(QKeyEvent* event) {
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  const bool letter = event->key() > Qt::Key_Space && !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) &&
+                      !event->text().isEmpty() && event->text().front().isPrint();
   const int before = selected();
   quietly([&] {
-    if (!enter)
+    const int found = letter ? letters_.find(entries(), before, to_bytes(event->text()), event->timestamp()) : -1;
+    if (found >= 0)
+      setCurrentIndex(model_.index(found));
+    else if (!enter && !letter)
       QListView::keyPressEvent(event);
     else if (currentIndex().isValid())
       selectionModel()->select(currentIndex(), QItemSelectionModel::ClearAndSelect);

@@ -9,6 +9,8 @@
 #include <string>
 #include <vector>
 
+#include "ui/type_ahead.h"
+
 namespace ui::qt {
 
 inline constexpr int kLabelIndent = 3;  // pixels; keeps a label's text from touching what stands left of it
@@ -65,12 +67,13 @@ class EntryList : public QListView {
   const std::vector<std::string>& entries() const { return model_.entries(); }
 
  signals:
-  void chosen(int entry);
+  void chosen(int entry);  // -1: somebody took the choice back
 
  protected:
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* event) const override;
   void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
   void mousePressEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
   void mouseMoveEvent(QMouseEvent*) override {}  // a drag chooses nothing
   void keyPressEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
@@ -82,6 +85,7 @@ class EntryList : public QListView {
   void quietly(Change change);
 
   EntryModel model_;
+  TypeAhead letters_;
   bool quiet_ = false;  // a change of the selection is not told
 };
 
