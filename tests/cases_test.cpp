@@ -2,6 +2,7 @@
 // \r, \n, \t and \x1a are the characters, {trailer} the lines that end a database, {one} a record, and {x*100} a hundred x.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <filesystem>
@@ -16,6 +17,7 @@
 #include <string_view>
 #include <vector>
 
+#include "app/controls.h"
 #include "db/components.h"
 #include "db/rewrite.h"
 #include "edit/choices.h"
@@ -168,6 +170,38 @@ std::string letters(const Arguments& arguments) {
   return std::to_string(current);
 }
 
+std::string window(const Arguments&) {
+  const ui::WindowDef& def = app::window_def();
+  std::ostringstream text;
+  text << def.program << " '" << def.caption << "' '" << def.menu << "' " << def.width << " " << def.height << ", row "
+       << def.row << ", " << def.points << " points, colour " << def.background.red << " " << def.background.green << " "
+       << def.background.blue;
+  return text.str();
+}
+
+// A control of the window as it stands in its table.
+std::string control(const Arguments& arguments) {
+  constexpr const char* kKinds[] = {"label", "text box", "list box", "combo box", "button", "line", "menu item"};
+  const auto controls = app::window_def().controls;
+  const auto def = std::ranges::find(controls, arguments[0], &ui::ControlDef::name);
+  if (def == controls.end()) return "none";
+  std::ostringstream text;
+  const auto place = [&](const char* what, const ui::Place& at) {
+    if (at.width > 0) text << what << at.left << " " << at.top << " " << at.width << " " << at.height;
+  };
+  text << kKinds[static_cast<int>(def->kind)] << " '" << def->caption << "'" << (def->shown ? " shown" : " hidden");
+  place(" at ", def->place);
+  if (def->drawn != def->place) place(", drawn ", def->drawn);
+  place(", else ", def->elsewhere);
+  text << (def->wraps ? ", wraps" : "") << (def->font.bold ? ", bold" : "") << (def->font.italic ? ", italic" : "");
+  if (def->font.points > 0) text << ", " << def->font.points << " points";
+  if (def->color.red + def->color.green + def->color.blue > 0)
+    text << ", colour " << def->color.red << " " << def->color.green << " " << def->color.blue;
+  if (def->tab >= 0) text << ", tab " << def->tab;
+  if (def->label >= 0) text << ", label " << controls[static_cast<std::size_t>(def->label)].name;
+  return text.str() + (def->about.empty() ? "" : ", about '" + def->about + "'") + (def->path ? ", path" : "");
+}
+
 const std::map<std::string, std::function<std::string(const Arguments&)>> kOperations{
     {"fields", fields},
     {"rewrite", rewrite},
@@ -184,6 +218,8 @@ const std::map<std::string, std::function<std::string(const Arguments&)>> kOpera
     {"free", free_id},
     {"lookup", lookup},
     {"letters", letters},
+    {"control", control},
+    {"window", window},
     {"named", [](const Arguments& a) { return file::named(a[0]); }},
 };
 

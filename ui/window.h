@@ -17,6 +17,7 @@ enum class Kind { Label, TextBox, ListBox, ComboBox, Button, Line, MenuItem };
 // In twips, 1/1440 inch, from the window's upper left corner. A backend may scale them.
 struct Place {
   int left = 0, top = 0, width = 0, height = 0;
+  bool operator==(const Place&) const = default;
 };
 
 struct Font {
