@@ -46,7 +46,8 @@ void frmMaindb::run(Handler handler) {
   } catch (const std::bad_alloc&) {
     state_.suggestrun = false;
     refuse(
-        "There is not enough memory to go on. The database holds the whole change or nothing of it: open it again and look.");
+        "There is not enough memory to go on. The database holds the whole change or nothing of it: open it again and "
+        "look.");
   }
 }
 

@@ -6,7 +6,6 @@
 #include <string_view>
 #include <utility>
 
-
 namespace db {
 namespace {
 
@@ -19,7 +18,7 @@ constexpr std::array<bool, 256> table_of(std::string_view characters) {
 constexpr auto kEndsField = table_of(",\r\n");
 constexpr auto kEndsQuotedText = table_of("\"\r\n");
 constexpr auto kBlank = table_of(" \t");
-constexpr auto kEmpty = table_of(" \t,\r\n");                             // what fields without a value are made of
+constexpr auto kEmpty = table_of(" \t,\r\n");  // what fields without a value are made of
 constexpr std::ptrdiff_t kLongestPlain = kLongestText;
 constexpr const char* kTooLong = "a field is longer than 64 KiB";
 

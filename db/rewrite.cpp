@@ -30,7 +30,8 @@ bool Rewrite::keep_until(std::optional<std::string_view> name) {
   while (const Record* record = reader_.next()) {
     if (++old_species_ == 1 && no_model_ && record->head[kId].type() == FieldType::Text)
       reader_.refuse(
-          "an empty line or field stands in the place of the model, and a text in that of the ID number. Nothing was changed. "
+          "an empty line or field stands in the place of the model, and a text in that of the ID number. Nothing was "
+          "changed. "
           "Remove the empty line with a text editor");
     if (name && record->name() == *name) return true;
     append_record(out_, *record);

@@ -11,7 +11,8 @@ std::string SpeciesReader::located_text(const std::string& reason) const {
     where += ", before the first record";
   } else {
     where += ", record " + std::to_string(records_);
-    if (record_.head[kId].type() != FieldType::Empty && !record_.name().empty()) where.append(" (").append(file::named(record_.name())).append(")");
+    if (record_.head[kId].type() != FieldType::Empty && !record_.name().empty())
+      where.append(" (").append(file::named(record_.name())).append(")");
   }
   return where + ": " + reason + ".";
 }
@@ -81,7 +82,8 @@ const Record* SpeciesReader::read_record() {
   const Field& id = record_.head[kId];
   if (!complete && id.type() == FieldType::Empty)
     refuse(
-        "an empty line or field begins the record, and the file ends inside it; in a rewrite what stands there would be lost. "
+        "an empty line or field begins the record, and the file ends inside it; in a rewrite what stands there would be "
+        "lost. "
         "Remove the empty line with a text editor");
   if (!complete) throw FieldError("the file ends inside the record");
   if (id.is_zero()) {

@@ -1,10 +1,10 @@
 #include "edit/display.h"
 
 #include <algorithm>
-
-#include "edit/marks.h"
 #include <string_view>
 #include <utility>
+
+#include "edit/marks.h"
 
 namespace edit {
 namespace {

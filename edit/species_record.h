@@ -21,9 +21,9 @@ struct Entry {
   std::span<const Row> components() const;
 };
 
-// The component number of each row: the fixed number of a surface site, for "#9999" the number after the sign, else that of the
-// component database. Nothing (an empty field) for any other name. The component database is read once, and
-// only when a row holds more than a surface site. Throws file::Refusal when it cannot be read.
+// The component number of each row: the fixed number of a surface site, for "#9999" the number after the sign, else that of
+// the component database. Nothing (an empty field) for any other name. The component database is read once, and only when a
+// row holds more than a surface site. Throws file::Refusal when it cannot be read.
 std::vector<std::optional<double>> numbers_of(std::span<const Row> rows, file::System& system, const std::string& compdb);
 
 // The two to four lines of the record; `numbers` are those of its components. Texts that are no number count as 0. Throws

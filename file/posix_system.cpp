@@ -51,12 +51,14 @@ std::error_code open_plain(const std::string& path, int flags, Handle& handle) {
     handle = fd;
     return {};
   }
-  const std::error_code error = make_error_code(S_ISDIR(s.st_mode) ? std::errc::is_a_directory : std::errc::invalid_argument);
+  const std::error_code error =
+      make_error_code(S_ISDIR(s.st_mode) ? std::errc::is_a_directory : std::errc::invalid_argument);
   ::close(fd);
   return error;
 }
 
-// Access list and user attributes. A new file may have got an access list from its folder: that goes if the old one has none.
+// Access list and user attributes. A new file may have got an access list from its folder: that goes if the old one has
+// none.
 std::error_code copy_attributes(int to, const std::string& from) {
   std::string names(kLargestAttribute, '\0'), value(kLargestAttribute, '\0');
   const ssize_t length = ::listxattr(from.c_str(), names.data(), names.size());
@@ -78,7 +80,8 @@ bool may(const std::string& path, int mode) { return ::faccessat(AT_FDCWD, path.
 bool sticks(const std::string& folder, const struct stat& file) {
   struct stat s {};
   const uid_t user = ::geteuid();
-  return ::stat(folder.c_str(), &s) == 0 && (s.st_mode & S_ISVTX) != 0 && user != 0 && user != s.st_uid && user != file.st_uid;
+  return ::stat(folder.c_str(), &s) == 0 && (s.st_mode & S_ISVTX) != 0 && user != 0 && user != s.st_uid &&
+         user != file.st_uid;
 }
 
 class PosixSystem final : public System {
@@ -105,7 +108,8 @@ class PosixSystem final : public System {
     if (error == std::errc::no_lock_available || error == std::errc::function_not_supported)
       error = make_error_code(std::errc::not_supported);
     // Whoever had it may just have put another file under the name: that one is not ours yet.
-    struct stat locked {}, named {};
+    struct stat locked {
+    }, named{};
     if (!error && (::fstat(fd, &locked) != 0 || ::lstat(path.c_str(), &named) != 0 || locked.st_dev != named.st_dev ||
                    locked.st_ino != named.st_ino))
       error = make_error_code(std::errc::operation_would_block);
@@ -134,7 +138,8 @@ class PosixSystem final : public System {
   // counts. Who may only execute the file does not, and whose it is neither, as long as group and permissions are the same.
   std::error_code take_over(Handle handle, const std::string& path) override {
     const int fd = descriptor(handle);
-    struct stat like {}, now {};
+    struct stat like {
+    }, now{};
     if (::stat(path.c_str(), &like) != 0) return last_error();
     std::error_code error;
     if (::fchown(fd, like.st_uid, like.st_gid) != 0 && ::fchown(fd, static_cast<uid_t>(-1), like.st_gid) != 0)

@@ -18,8 +18,8 @@ inline constexpr std::size_t kLargestDatabase = 64 * 1024 * 1024;  // bytes; a l
 class Replacement {
  public:
   // Prepares for a new content of `target`, which may be a link or not exist yet, by way of `temporary`. Throws Refusal when
-  // that would endanger something (a target that is read-only, in use, has several names or is to be spared; a temporary name
-  // that is in use or no plain file), and Error when the system does not let it.
+  // that would endanger something (a target that is read-only, in use, has several names or is to be spared; a temporary
+  // name that is in use or no plain file), and Error when the system does not let it.
   Replacement(System& system, const std::string& temporary, const std::string& target, const Spared& spared);
   Replacement(const Replacement&) = delete;
   Replacement& operator=(const Replacement&) = delete;

@@ -25,17 +25,17 @@ struct Status {
   bool writable = false;     // the system lets this user write it; told by its name only, as is:
   bool replaceable = false;  // its folder lets this user put another file in its place
   std::uint64_t size = 0;
-  std::uint64_t links = 0;                 // number of names (hard links)
+  std::uint64_t links = 0;                  // number of names (hard links)
   std::array<std::uint64_t, 2> identity{};  // the same means the same file
-  std::int64_t changed = 0;                // when, in nanoseconds; any change of the file changes it
+  std::int64_t changed = 0;                 // when, in nanoseconds; any change of the file changes it
 
   bool same_file(const Status& other) const {
     return type != Type::Missing && other.type != Type::Missing && identity == other.identity;
   }
   // The same file with the same content, or no file both times.
   bool same_content(const Status& other) const {
-    return type == other.type && (type == Type::Missing || (identity == other.identity && size == other.size &&
-                                                            changed == other.changed));
+    return type == other.type &&
+           (type == Type::Missing || (identity == other.identity && size == other.size && changed == other.changed));
   }
 };
 

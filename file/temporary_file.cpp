@@ -81,7 +81,8 @@ bool TemporaryFile::remove_leftover() {
   if (!error || error == std::errc::not_supported) error = uninterrupted([&] { return system_.remove(path_); });
   if (is_denied(error)) {
     const std::string owner = system_.owner_of(path_);
-    throw Refusal(named(path_) + " belongs to " + owner + ", whose saving in this folder is not done or was interrupted. Try " +
+    throw Refusal(named(path_) + " belongs to " + owner +
+                  ", whose saving in this folder is not done or was interrupted. Try " +
                   "again in a while; if the file stays, have " + owner + " remove it.");
   }
   if (error != std::errc::no_such_file_or_directory) require(error, "remove", path_);

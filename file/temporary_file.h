@@ -44,8 +44,8 @@ class TemporaryFile {
 
   const Status& created() const { return created_; }
 
-  // Writes the whole content to the disk and reads it back; the file at `like`, if any, is the one whose permissions it gets.
-  // Once only. Throws Error.
+  // Writes the whole content to the disk and reads it back; the file at `like`, if any, is the one whose permissions it
+  // gets. Once only. Throws Error.
   void write(std::string_view content, const std::string* like);
   // Gives it another name, under which it stays. Throws Refusal when another editor has put its own file in its place.
   std::error_code rename(const std::string& to);

@@ -85,7 +85,8 @@ class Accountant {
       }
       const auto count = fields_[at_ + 11].value();
       Account::Record record{fields_[at_ + 1].text, {}};
-      if (!count || !take(12, record.fields) || !take_pairs(std::floor(*count) - (std::floor(*count) > 100 ? 100 : 0), record.fields))
+      if (!count || !take(12, record.fields) ||
+          !take_pairs(std::floor(*count) - (std::floor(*count) > 100 ? 100 : 0), record.fields))
         return false;
       if (*count > 100) {
         const auto mb_count = at_ < fields_.size() ? fields_[at_].value() : std::nullopt;

@@ -76,7 +76,7 @@ std::string Session::save(bool to_new) {
 std::string Session::remove() {
   const ui::Control& list = program_.form.window()[app::lstReactions];
   const std::string selected(db::trimmed(list.selected_text())), path = program_.form.state().open.path,
-      before = system_.content(path);
+                                                                 before = system_.content(path);
   program_.Answer(ui::Answer::Yes);
   program_.click(app::cmdDelete);
   program_.dialogs.answers.clear();

@@ -1,5 +1,5 @@
-// A user who does anything in any order, and an account of the records kept beside: every record that no event was to change is
-// still there with the same values, whatever the file was.
+// A user who does anything in any order, and an account of the records kept beside: every record that no event was to change
+// is still there with the same values, whatever the file was.
 #pragma once
 
 #include <functional>

@@ -73,7 +73,8 @@ std::string fields(const Arguments& arguments) {
     db::FieldReader reader(system, "x");
     for (db::Field field; reader.next(std::span(&field, 1));) {
       const std::string mark = field.quoted ? "\"" : "";
-      all += "[" + mark + (field.text.size() > 100 ? std::to_string(field.text.size()) : std::string(field.text)) + mark + "]";
+      all +=
+          "[" + mark + (field.text.size() > 100 ? std::to_string(field.text.size()) : std::string(field.text)) + mark + "]";
     }
   } catch (const db::FieldError& error) {
     return error.what();
@@ -128,7 +129,8 @@ std::string free_id(const Arguments& arguments) {
   try {
     edit::FreeId candidates(base);
     for (std::string range; used >> range;)
-      for (double i = 0, count = range.find('*') == range.npos ? 1 : std::stod(range.substr(range.find('*') + 1)); i < count; ++i)
+      for (double i = 0, count = range.find('*') == range.npos ? 1 : std::stod(range.substr(range.find('*') + 1)); i < count;
+           ++i)
         candidates.use(std::stod(range) + i);
     return db::format_number(candidates.result());
   } catch (const file::Refusal& refusal) {

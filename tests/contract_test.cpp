@@ -1,5 +1,5 @@
-// What the program relies on in a file system, on the real disk and on the files in memory on which all tests of faults rest:
-// the same for both.
+// What the program relies on in a file system, on the real disk and on the files in memory on which all tests of faults
+// rest: the same for both.
 #include <gtest/gtest.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -103,7 +103,9 @@ class DiskWorld final : public World {
   }
   file::System& system() override { return file::system(); }
   std::string path(const std::string& name) const override { return folder_ + "/" + name; }
-  void link(const std::string& name, const std::string& to) override { EXPECT_EQ(::symlink(to.c_str(), path(name).c_str()), 0); }
+  void link(const std::string& name, const std::string& to) override {
+    EXPECT_EQ(::symlink(to.c_str(), path(name).c_str()), 0);
+  }
   void hard_link(const std::string& name, const std::string& existing) override {
     EXPECT_EQ(::link(path(existing).c_str(), path(name).c_str()), 0);
   }
@@ -334,8 +336,8 @@ TEST(Disk, AccessListAndUserAttributesAreTakenOver) {
   create("b", b);
   create("c", c);
   // Owner rw, user 1 r, group none, mask r, others none: the system's own form of an access list.
-  const std::uint16_t list[] = {2, 0, 1, 6, 0xFFFF, 0xFFFF, 2, 4, 1, 0, 4, 0, 0xFFFF, 0xFFFF, 16, 4, 0xFFFF, 0xFFFF, 32, 0,
-                                0xFFFF, 0xFFFF};
+  const std::uint16_t list[] = {2, 0,      1,      6,  0xFFFF, 0xFFFF, 2,      4,  1, 0,      4,
+                                0, 0xFFFF, 0xFFFF, 16, 4,      0xFFFF, 0xFFFF, 32, 0, 0xFFFF, 0xFFFF};
   const char* const kList = "system.posix_acl_access";
   if (::setxattr(world.path("a").c_str(), kList, list, sizeof list, 0) != 0 ||
       ::setxattr(world.path("a").c_str(), "user.note", "mine", 4, 0) != 0)
@@ -361,9 +363,7 @@ TEST(Disk, AFileThatWasReplacedWhileItWasOpenedIsNotHeld) {
   EXPECT_EQ(world.system().exclude_others(world.path("a"), lock.handle()), std::error_code());
 }
 
-TEST(Disk, ACloseThatFailsIsAnError) {
-  EXPECT_EQ(file::system().close(999), std::errc::bad_file_descriptor);
-}
+TEST(Disk, ACloseThatFailsIsAnError) { EXPECT_EQ(file::system().close(999), std::errc::bad_file_descriptor); }
 
 TEST(Disk, ALimitOnTheSizeOfFilesIsAnError) {
   DiskWorld world;

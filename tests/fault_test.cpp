@@ -11,8 +11,8 @@
 #include <iostream>
 #include <map>
 #include <new>
-#include <set>
 #include <optional>
+#include <set>
 #include <string>
 #include <system_error>
 #include <vector>
@@ -236,8 +236,8 @@ void check(const Operation& operation, const Fault& fault, const std::map<std::s
     const bool fresh = whole.count(path) > 0 && whole.at(path) == content;
     const bool copy = path.find("new.mdb") != std::string::npos && content == kDatabase;  // saving to new begins with one
     // A file that cannot be removed stays, and one that another editor has taken is that one's to remove.
-    const bool leftover = path.find("dbnamep") != std::string::npos &&
-                          (fault.call == Call::Remove || fault.call == Call::ExcludeOthers);
+    const bool leftover =
+        path.find("dbnamep") != std::string::npos && (fault.call == Call::Remove || fault.call == Call::ExcludeOthers);
     EXPECT_TRUE(old || fresh || copy || leftover) << path << " holds " << content;
   }
   EXPECT_EQ(after.count("/kelmar/x.mdb"), 1u);
@@ -271,9 +271,10 @@ TEST(Fault, OfMemoryLeavesAWholeDatabaseAndIsTold) {
       }
       EXPECT_EQ(attempt.memory.open_handles(), 0);
       EXPECT_FALSE(attempt.program.form.state().suggestrun);
-      EXPECT_EQ(attempt.program.LastBox(),
-                "[There is not enough memory to go on. The database holds the whole change or nothing of it: open it again and "
-                "look.]");
+      EXPECT_EQ(
+          attempt.program.LastBox(),
+          "[There is not enough memory to go on. The database holds the whole change or nothing of it: open it again and "
+          "look.]");
     }
   }
 }

@@ -39,7 +39,9 @@ struct Change {
 void apply(const Change& change, bool torn, Disk& disk) {
   switch (change.call) {
     case Call::CreateNew: disk.names[change.from] = change.file; break;
-    case Call::Write: disk.files[change.file] += torn ? change.bytes.substr(0, change.bytes.size() / 2) : change.bytes; break;
+    case Call::Write:
+      disk.files[change.file] += torn ? change.bytes.substr(0, change.bytes.size() / 2) : change.bytes;
+      break;
     case Call::Rename: disk.names[change.to] = change.file; [[fallthrough]];
     default: disk.names.erase(change.from);
   }

@@ -83,7 +83,8 @@ TEST_F(Replace, ReachesAnotherFileSystem) {
 TEST_F(Replace, RefusesWhatWouldEndangerSomething) {
   const std::string elsewhere = " Use \"Save changes to new database\" with another place.",
                     in_the_way = "dbnamep.mdb is in the way: it is not a plain file. Remove it and try again.",
-                    itself = "the open database is the temporary file dbnamep.mdb itself. Copy it to another name and open that.",
+                    itself =
+                        "the open database is the temporary file dbnamep.mdb itself. Copy it to another name and open that.",
                     spared = " is the component database, which is never changed. Choose another file for one of the two.";
   const struct {
     std::function<void(MemorySystem&)> prepare;
@@ -92,7 +93,8 @@ TEST_F(Replace, RefusesWhatWouldEndangerSomething) {
   } rows[] = {
       {[](MemorySystem& s) { s.at("x.mdb").writable = false; }, "x.mdb",
        "x.mdb is read-only. Make it writable or save to a new database."},
-      {[](MemorySystem& s) { s.at("x.mdb").type = Type::Other; }, "x.mdb", "x.mdb is not a plain file. Choose another name."},
+      {[](MemorySystem& s) { s.at("x.mdb").type = Type::Other; }, "x.mdb",
+       "x.mdb is not a plain file. Choose another name."},
       {[](MemorySystem& s) { s.hard_link("y.mdb", "x.mdb"); }, "x.mdb",
        "x.mdb has several names (hard links), from which replacing it would part it." + elsewhere},
       {[](MemorySystem& s) {
@@ -138,9 +140,10 @@ TEST_F(Replace, RemovesAPlainLeftoverAndNothingElse) {
                                      std::pair(Call::Remove, std::errc::operation_not_permitted)}) {
     system.add("dbnamep.mdb", "another's");
     fail(call, call == Call::Remove ? 1 : 2, make_error_code(reason));
-    EXPECT_EQ(replace("x.mdb"),
-              "dbnamep.mdb belongs to ada, whose saving in this folder is not done or was interrupted. Try again in a while; if "
-              "the file stays, have ada remove it.");
+    EXPECT_EQ(
+        replace("x.mdb"),
+        "dbnamep.mdb belongs to ada, whose saving in this folder is not done or was interrupted. Try again in a while; if "
+        "the file stays, have ada remove it.");
     EXPECT_EQ(system.content("dbnamep.mdb"), "another's");
   }
   // A file that has come under the name meanwhile is another editor's: it takes nobody's place and is not removed.
@@ -197,8 +200,7 @@ TEST_F(Replace, TakesItsTurn) {
 TEST_F(Replace, LeavesAloneWhatAnotherProgramChangedMeanwhile) {
   const std::function<void()> changes[] = {[&] { system.add("x.mdb", "other"); },  // another file under the name
                                            [&] { system.at("x.mdb").content = "longer than it was"; },
-                                           [&] { ++system.at("x.mdb").changed; },
-                                           [&] { system.remove("x.mdb"); }};
+                                           [&] { ++system.at("x.mdb").changed; }, [&] { system.remove("x.mdb"); }};
   for (const auto& change : changes) {
     system.add("x.mdb", "old content");
     watched.after = [&](const CallInfo& info) {
@@ -249,9 +251,10 @@ TEST_F(Replace, SaysWhatFailedAndWhere) {
     expect_nothing_left(1);
   }
   fail(Call::FlushFolder, 1);
-  EXPECT_EQ(replace("x.mdb"),
-            "cannot write to the disk the folder of /kelmar/x.mdb: Input/output error. The database holds the new content, but "
-            "a power cut may bring the old one back: save it again.");
+  EXPECT_EQ(
+      replace("x.mdb"),
+      "cannot write to the disk the folder of /kelmar/x.mdb: Input/output error. The database holds the new content, but "
+      "a power cut may bring the old one back: save it again.");
   EXPECT_EQ(system.content("x.mdb"), "new");
   fail(Call::Rename, 1, make_error_code(std::errc::permission_denied));
   EXPECT_EQ(replace("x.mdb", "newer"),

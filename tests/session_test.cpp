@@ -1,10 +1,11 @@
 // Sessions at random, on databases at random; fuzz/fuzz_session.cpp goes further in the same way.
+#include "session.h"
+
 #include <gtest/gtest.h>
 
 #include <random>
 #include <string>
 
-#include "session.h"
 #include "support/story.h"
 
 namespace {
@@ -20,8 +21,15 @@ class Databases {
   std::string database(const std::string& leading) {
     std::string content = leading;
     for (unsigned i = next(6); i > 0; --i) content += record();
-    static const std::string kEnds[] = {support::kTrailer, support::kTrailer, support::kTrailer, "", "\r\n", "\x1a\r\n",
-                                        "\r\n" + support::kTrailer, "\r\n5,hidden,0,0,0,0,0,0,0,0,0,0\r\n", "7,cut,0"};
+    static const std::string kEnds[] = {support::kTrailer,
+                                        support::kTrailer,
+                                        support::kTrailer,
+                                        "",
+                                        "\r\n",
+                                        "\x1a\r\n",
+                                        "\r\n" + support::kTrailer,
+                                        "\r\n5,hidden,0,0,0,0,0,0,0,0,0,0\r\n",
+                                        "7,cut,0"};
     content += kEnds[next(9)];
     for (unsigned i = next(8) == 0 ? 1 + next(3) : 0; i > 0 && !content.empty(); --i)
       content[next(static_cast<unsigned>(content.size()))] = "\",\r\n 0x9\t"[next(9)];
@@ -39,7 +47,8 @@ class Databases {
     std::string text = std::to_string(next(30)) + "," + kNames[next(7)];
     for (int i = 0; i < 9; ++i) text += "," + (next(3) == 0 ? field() : "0");
     text += "," + std::to_string(pairs + 100 * block) + "\r\n";
-    for (unsigned i = 0; i < pairs; ++i) text += "1," + std::to_string(next(2) == 0 ? 231 : 330) + (i + 1 < pairs ? "," : "\r\n");
+    for (unsigned i = 0; i < pairs; ++i)
+      text += "1," + std::to_string(next(2) == 0 ? 231 : 330) + (i + 1 < pairs ? "," : "\r\n");
     return block == 0 ? text : text + "1\r\n.5,231\r\n";
   }
 
@@ -49,7 +58,10 @@ class Databases {
 TEST(Session, LosesNoRecord) {
   const struct {
     const char *name, *leading;
-  } kinds[] = {{"x.mdb", ""}, {"x.cdb", ""}, {"x.iso", "\"Freundlich\"\r\n"}, {"x.nic", "\"NICA-Donnan\"\r\n"},
+  } kinds[] = {{"x.mdb", ""},
+               {"x.cdb", ""},
+               {"x.iso", "\"Freundlich\"\r\n"},
+               {"x.nic", "\"NICA-Donnan\"\r\n"},
                {"x.bli", "\"text\"\r\n\"label\",.5\r\n"}};
   for (unsigned seed = 0; seed < 3000; ++seed) {
     Databases databases(seed);

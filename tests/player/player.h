@@ -20,7 +20,9 @@ class Player {
   Outcome play(const Event& event);
   Outcome select(int entry) { return play({.kind = Event::Kind::Select, .control = app::lstReactions, .entry = entry}); }
   Outcome pick(int combo, int entry) { return play({.kind = Event::Kind::Pick, .control = combo, .entry = entry}); }
-  Outcome type(int box, std::string text) { return play({.kind = Event::Kind::Type, .control = box, .text = std::move(text)}); }
+  Outcome type(int box, std::string text) {
+    return play({.kind = Event::Kind::Type, .control = box, .text = std::move(text)});
+  }
   Outcome click(int button) { return play({.kind = Event::Kind::Click, .control = button}); }
 
   // The block "state" to "end": every control with what it shows, and every value of the window state.

@@ -91,18 +91,18 @@ TEST_F(QtDialog, MessageIsNoLargerThanTheScreen) {
     EXPECT_LE(box.height(), box.screen()->availableSize().height());
     box.close();
   });
-  dialogs.message(name + ", record 4000 (" + name + "): the number of components is \"" + name + "\", not a number.", "Kelmar error",
-                  Icon::Critical, Buttons::Ok);
+  dialogs.message(name + ", record 4000 (" + name + "): the number of components is \"" + name + "\", not a number.",
+                  "Kelmar error", Icon::Critical, Buttons::Ok);
 }
 
 TEST_F(QtDialog, FileToOpenIsThere) {
   QFile there(folder.filePath("a.MDB"));
   ASSERT_TRUE(there.open(QIODevice::WriteOnly));
-  const FileRequest request{.form = FileRequest::Form::Open, .filter = "A (*.MDB)|*.MDB|B (*.ISO)|*.ISO", .folder = file("")};
+  const FileRequest request{
+      .form = FileRequest::Form::Open, .filter = "A (*.MDB)|*.MDB|B (*.ISO)|*.ISO", .folder = file("")};
   EXPECT_EQ(choose(request,
                    [](QFileDialog& dialog) {
-                     EXPECT_EQ(dialog.nameFilters(),
-                               (QStringList{"A (*.MDB) (*.MDB *.mdb)", "B (*.ISO) (*.ISO *.iso)"}));
+                     EXPECT_EQ(dialog.nameFilters(), (QStringList{"A (*.MDB) (*.MDB *.mdb)", "B (*.ISO) (*.ISO *.iso)"}));
                      dialog.selectFile("a.MDB");
                      QTest::keyClick(&dialog, Qt::Key_Return);
                    }),
@@ -121,8 +121,7 @@ TEST_F(QtDialog, FileToWriteGetsTheExtensionAndIsReplacedOnlyWhenTheUserSaysSo) 
       edit->setText(name);
       if (replace) {
         answer<QMessageBox>([replace](QMessageBox& box) { box.button(*replace)->click(); });
-        if (*replace == QMessageBox::No)
-          QTimer::singleShot(50, &dialog, [&dialog] { dialog.reject(); });
+        if (*replace == QMessageBox::No) QTimer::singleShot(50, &dialog, [&dialog] { dialog.reject(); });
       }
       QTest::keyClick(&dialog, Qt::Key_Return);
     };

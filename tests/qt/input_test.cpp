@@ -28,7 +28,8 @@ TEST(Qt, RunsEventsInTheOrderInWhichTheyWereMade) {
        "select 5\nclick cmdAddnew\ntype txtSpname New\ntype cboComp H+\ntype txtStoicn 2\nclick cmdSuggest\n"
        "type txtlogk 1\ntype txtCharge 1\nanswer Yes\nclick cmdSavedb\nclick cmdAddnew"},
       {"langmuir.ISO", "select 0",
-       "select 1\npick cboIsoterm 4\nselect 3\nanswer Yes\nclick cmdSavedb\nselect 4\nselect 5\nanswer Yes\nclick cmdDelete"},
+       "select 1\npick cboIsoterm 4\nselect 3\nanswer Yes\nclick cmdSavedb\nselect 4\nselect 5\nanswer Yes\nclick "
+       "cmdDelete"},
   };
   for (const auto& [database, before, burst] : rows) {
     support::PlainSeat plain;

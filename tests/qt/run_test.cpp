@@ -11,7 +11,8 @@
 
 namespace {
 
-const ui::ControlDef kControls[] = {{.name = "button", .kind = ui::Kind::Button, .caption = "a", .place = {0, 0, 900, 300}, .tab = 0}};
+const ui::ControlDef kControls[] = {
+    {.name = "button", .kind = ui::Kind::Button, .caption = "a", .place = {0, 0, 900, 300}, .tab = 0}};
 
 // A form that asks something while it loads, and ends as it is told.
 class ShortForm final : public ui::Form {
@@ -21,8 +22,13 @@ class ShortForm final : public ui::Form {
     window_.status = status;
   }
   const ui::WindowDef& definition() const override {
-    static const ui::WindowDef def{
-        .program = "short", .caption = "Short", .width = 3000, .height = 900, .row = 240, .points = 8.25, .controls = kControls};
+    static const ui::WindowDef def{.program = "short",
+                                   .caption = "Short",
+                                   .width = 3000,
+                                   .height = 900,
+                                   .row = 240,
+                                   .points = 8.25,
+                                   .controls = kControls};
     return def;
   }
   ui::Window& window() override { return window_; }

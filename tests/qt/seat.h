@@ -1,5 +1,5 @@
-// Programs on the samples, in memory: one on the window without a toolkit, one in real widgets, and one that is used by somebody
-// who does not wait.
+// Programs on the samples, in memory: one on the window without a toolkit, one in real widgets, and one that is used by
+// somebody who does not wait.
 #pragma once
 
 #include <chrono>

@@ -2,7 +2,6 @@
 // names of one file, permissions, locks, file systems of their own.
 #pragma once
 
-#include <cstdint>
 #include <chrono>
 #include <cstdint>
 #include <functional>
@@ -58,8 +57,7 @@ class MemorySystem : public file::System {
   std::error_code open_read(const std::string& path, file::Handle& handle) override;
   std::error_code create_new(const std::string& path, file::Access access, file::Handle& handle) override;
   std::error_code exclude_others(const std::string& path, file::Handle& handle) override;
-  std::error_code read(file::Handle handle, std::uint64_t offset, char* bytes, std::size_t size,
-                       std::size_t& got) override;
+  std::error_code read(file::Handle handle, std::uint64_t offset, char* bytes, std::size_t size, std::size_t& got) override;
   std::error_code write(file::Handle handle, std::string_view bytes, std::size_t& put) override;
   std::error_code take_over(file::Handle handle, const std::string& path) override;
   std::error_code flush(file::Handle handle) override;
