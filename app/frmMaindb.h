@@ -78,7 +78,7 @@ class frmMaindb final : public ui::Form {
   void set_shown(std::initializer_list<int> controls, bool shown);
   void hide_rows();
   void empty_rows();
-  void select_species(std::string_view text);
+  void add_species(std::string name);
   void remove_species(int entry);
   std::optional<std::string> selected_species() const;  // its text without blanks at the ends
   void open_database(std::string path);

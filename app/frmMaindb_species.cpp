@@ -72,7 +72,7 @@ void frmMaindb::cmdAddnew_Click() {
   edit::Choices choices = edit::component_choices(system_, state_.compdb, state_.open.isomodel, state_.open.cdbfile());
   window_[cboComp].entries = std::move(choices.names);
   empty_rows();
-  select_species("");
+  window_[lstReactions].selected = -1;
   for (const int box : {txtName, txtID, txtlogk, txtKsel, txtdhr, txtCharge}) set(box, "");
   set(txtNocomp, "0");
   state_.compslot = 1;
@@ -105,8 +105,7 @@ void frmMaindb::cmdSuggest_Click() {
   const bool pending = !text(cboComp).empty() && !text(txtStoicn).empty();
   if (pending && refuse_ninth_component()) return;
   state_.suggestrun = true;
-  window_[lstReactions].entries.push_back(text(txtSpname));
-  select_species(text(txtSpname));
+  add_species(text(txtSpname));
   set(txtName, text(txtSpname));
   if (pending) take_pending_component();
   set(txtNocomp, db::numtext(state_.compslot - 1));
@@ -148,11 +147,12 @@ void frmMaindb::empty_rows() {
     for (const int box : {txtStoich(i), txtMBstoich(i), txtComp(i)}) set(box, "");
 }
 
-// The first entry with this text; none for the empty text.
-void frmMaindb::select_species(std::string_view text) {
+// Selects the first entry with its text; none for the empty text.
+void frmMaindb::add_species(std::string name) {
   ui::Control& list = window_[lstReactions];
-  const auto found = std::find(list.entries.begin(), list.entries.end(), text);
-  list.selected = text.empty() || found == list.entries.end() ? -1 : static_cast<int>(found - list.entries.begin());
+  list.entries.push_back(std::move(name));
+  const auto first = std::ranges::find(list.entries, list.entries.back());
+  list.selected = first->empty() ? -1 : static_cast<int>(first - list.entries.begin());
 }
 
 void frmMaindb::remove_species(int entry) {

@@ -53,8 +53,10 @@ LeadingFields SpeciesReader::read_leading(Leading leading) {
 }
 
 const Record* SpeciesReader::next() {
-  if (end_ == End::None && !fields_.begin_record()) end_ = End::File;
-  if (end_ == End::None && records_ == kMaxRecords) end_ = End::Limit;
+  if (!fields_.begin_record())
+    end_ = End::File;
+  else if (records_ == kMaxRecords)
+    end_ = End::Limit;
   if (end_ != End::None) return nullptr;
   ++records_;
   record_.head[kId] = record_.head[kName] = {};

@@ -38,7 +38,7 @@ Status from_stat(const struct stat& s) {
   status.size = static_cast<std::uint64_t>(s.st_size);
   status.links = s.st_nlink;
   status.identity = {s.st_dev, s.st_ino};
-  status.changed = s.st_ctim.tv_sec * std::int64_t{1'000'000'000} + s.st_ctim.tv_nsec;
+  status.changed = std::chrono::seconds(s.st_ctim.tv_sec) + std::chrono::nanoseconds(s.st_ctim.tv_nsec);
   return status;
 }
 

@@ -27,7 +27,7 @@ struct Status {
   std::uint64_t size = 0;
   std::uint64_t links = 0;                  // number of names (hard links)
   std::array<std::uint64_t, 2> identity{};  // the same means the same file
-  std::int64_t changed = 0;                 // when, in nanoseconds; any change of the file changes it
+  std::chrono::nanoseconds changed{};       // when; any change of the file changes it
 
   bool same_file(const Status& other) const {
     return type != Type::Missing && other.type != Type::Missing && identity == other.identity;

@@ -18,6 +18,7 @@
 #include <vector>
 
 #include "app/controls.h"
+#include "app/start_up.h"
 #include "db/components.h"
 #include "db/rewrite.h"
 #include "edit/choices.h"
@@ -213,6 +214,7 @@ const std::map<std::string, std::function<std::string(const Arguments&)>> kOpera
     {"rule", [](const Arguments& a) { return rule(a, edit::number_rule); }},
     {"comma", [](const Arguments& a) { return rule(a, edit::comma_number); }},
     {"kind", [](const Arguments& a) { return std::string(db::name_of(db::kind_of(a[0])).extension); }},
+    {"folder", [](const Arguments& a) { return app::working_folder(a[0]); }},
     {"donnica", [](const Arguments& a) { return std::string(db::is_donnica(a[0]) ? "yes" : "no"); }},
     {"range", [](const Arguments& a) { return std::to_string(static_cast<int>(edit::range_of(std::stod(a[0])))); }},
     {"offered", offered},

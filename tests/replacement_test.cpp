@@ -297,13 +297,29 @@ TEST_F(Replace, CopiesOverButNotOntoItself) {
   watched.after = [](const CallInfo& info) { EXPECT_NE(info.call, Call::CreateNew); };
   for (const char* same : {"x.mdb", "z.mdb"}) EXPECT_EQ(file::copy_over(watched, "x.mdb", same, kSpared), std::nullopt);
   expect_nothing_left(3);
+  // In many blocks.
+  std::string large;
+  while (large.size() < 200'000) large += std::to_string(large.size()) + ",";
+  system.add("large.mdb", large);
+  EXPECT_EQ(file::copy_over(system, "large.mdb", "y.mdb", kSpared), std::nullopt);
+  EXPECT_EQ(system.content("y.mdb"), large);
 }
 
-TEST(Names, AreShortenedInTheMiddle) {
-  const std::string fits(80, 'x');
-  EXPECT_EQ(file::named(fits), fits);
-  EXPECT_EQ(file::named("the beginning" + fits + "the end"),
-            "the beginning" + std::string(25, 'x') + "..." + std::string(31, 'x') + "the end");
+TEST_F(Replace, ReadsAsAWholeWhatIsNotTooLarge) {
+  EXPECT_EQ(file::read_whole(system, "x.mdb", 11), "old content");
+  const auto message = [](const auto& read) -> std::string {
+    try {
+      return read();
+    } catch (const file::Error& error) {
+      return error.what();
+    }
+  };
+  EXPECT_EQ(message([&] { return file::read_whole(system, "x.mdb", 10); }),
+            "cannot read x.mdb as a whole: it is larger than any database.");
+  EXPECT_EQ(message([&] { return file::read_whole(system, "", 10); }),
+            "cannot open a file without a name: No such file or directory.");
+  fail(Call::Read, 1);
+  EXPECT_EQ(message([&] { return file::read_whole(watched, "x.mdb", 11); }), "cannot read x.mdb: Input/output error.");
 }
 
 }  // namespace

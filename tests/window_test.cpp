@@ -73,6 +73,21 @@ TEST_F(Story, StartUpInAFolderThatCannotBeUsed) {
     EXPECT_EQ(failing.LastBox(), std::string(row.message) + " Start it from Kelmar, in Kelmar's folder.]");
     EXPECT_EQ(failing.form.window().status, 1);
   }
+  // What fails later leaves a window without a database, and the hand-over for the next start.
+  system.add("dabase.txt", "C");
+  system.add("sorptemp.dat", "x.mdb");
+  for (const auto& [call, nth] : {std::pair(support::Call::ChangeDrive, 1), {support::Call::ChangeFolder, 2}}) {
+    support::WatchedSystem watched(system);
+    watched.before = [call = call, left = nth](const support::CallInfo& info) mutable -> std::optional<support::Instead> {
+      if (info.call != call || --left > 0) return std::nullopt;
+      return support::Instead{make_error_code(std::errc::permission_denied)};
+    };
+    Program without(watched);
+    without.form.load();
+    EXPECT_EQ(without.form.state().open.path, "");
+    EXPECT_EQ(without.told, std::vector<std::string>());
+    EXPECT_TRUE(system.has("sorptemp.dat"));
+  }
   system.add("dabase.txt", "");
   program.form.load();
   EXPECT_EQ(program.LastBox(),
@@ -161,6 +176,46 @@ TEST_F(Story, FullDatabaseTakesNoFurtherSpecies) {
   program.click(mnuFileOpen);
   add_species(program);
   EXPECT_EQ(system.content("y.mdb"), lines({"7,\"New\",0,1,0,0,0,0,0,0,0,0"}) + but_one + kTrailer);
+}
+
+// Where the copy fails another database may lie under the new name: it is never rewritten, nor a copy of it.
+TEST_F(Story, DatabaseThatCouldNotBeCopiedIsLeftAlone) {
+  support::WatchedSystem watched(system);
+  Program failing(watched);
+  Start("x.mdb", species("501", "CuX") + kTrailer);
+  const std::string other = species("502", "FeX") + kTrailer;
+  system.add("b.iso", other);
+  system.add("sorptemp.dat", "x.mdb");
+  failing.form.load();
+  failing.Select("CuX");
+  watched.before = [](const support::CallInfo& info) -> std::optional<support::Instead> {
+    if (info.call != support::Call::Rename) return std::nullopt;
+    return support::Instead{make_error_code(std::errc::io_error)};
+  };
+  failing.told.clear();
+  failing.Choose("b.iso");
+  failing.click(cmdNewDb);
+  EXPECT_EQ(failing.told.size(), 1u) << "the dialog alone";
+  watched.before = [](const support::CallInfo&) { return std::nullopt; };
+  const std::string is_another = " is another database than the one that was open, which could not be copied there. Open "
+                                 "the one or the other with the File menu.]";
+  failing.Save();
+  EXPECT_EQ(failing.LastBox(), "[b.iso" + is_another);
+  failing.Choose("c.iso");
+  failing.click(cmdNewDb);
+  EXPECT_EQ(failing.LastBox(), "[c.iso" + is_another);
+  EXPECT_EQ(system.content("b.iso") + system.content("c.iso"), other + other);
+  failing.Choose("c.mdb");
+  system.add("c.mdb", other);
+  failing.click(mnuFileOpen);
+  failing.Select("FeX");
+  failing.type(txtName, std::string(65535, 'n'));
+  failing.Save();
+  EXPECT_EQ(failing.LastBox(),
+            "[The species name is longer than 65534 characters. Shorten it.]");
+  failing.type(txtName, "Fe");
+  failing.Save();
+  EXPECT_EQ(system.content("c.mdb"), lines({"502,\"Fe\",0,1.5,0,0,2,0,0,0,0,2", "1,231,-1,9999"}) + kTrailer);
 }
 
 // Whatever happens to the window while the question stands, what it was asked about is deleted.

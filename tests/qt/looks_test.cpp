@@ -64,6 +64,21 @@ TEST(Qt, CutsNoCaptionAndShowsLongTextsInTooltips) {
   qt.type(app::txtName, "<b>" + name);
   EXPECT_EQ(tooltip(app::txtID), "");
   EXPECT_EQ(tooltip(app::txtName), "<span>&lt;b&gt;" + name + "</span>");
+  // A path is cut in its middle, a caption at its end.
+  const auto picture = [&](int control, const std::string& text) {
+    qt.form.window()[control].text = text;
+    qt.window.push();
+    return qt.window.widget(control)->grab().toImage();
+  };
+  const QImage a_path = picture(app::lblNameDb, name + name + "/a.mdb"), a_text = picture(app::lblComp, name + name + "a");
+  EXPECT_NE(picture(app::lblNameDb, name + name + "/b.mdb"), a_path);
+  EXPECT_EQ(picture(app::lblComp, name + name + "b"), a_text);
+  EXPECT_EQ(tooltip(app::lblComp), "<span>" + name + name + "b</span>");
+  // In the encoding of file names where it is that, else in the code page.
+  picture(app::lblNameDb, "\xc3\xa4.mdb");
+  EXPECT_EQ(qobject_cast<ui::qt::Caption*>(qt.window.widget(app::lblNameDb))->text(), QString::fromUtf8("\u00e4.mdb"));
+  picture(app::lblNameDb, "\xe4.mdb");
+  EXPECT_EQ(qobject_cast<ui::qt::Caption*>(qt.window.widget(app::lblNameDb))->text(), QString::fromUtf8("\u00e4.mdb"));
 }
 
 // The note about M.B. stoichiometries gives way to the rows that lie over it; boxes above one another are alike.

@@ -26,7 +26,7 @@ class MemorySystem : public file::System {
     std::string attributes;  // beyond the permissions
     bool locked = false;
     std::uint64_t inode = 0;
-    std::int64_t changed = 0;
+    std::chrono::nanoseconds changed{};
   };
   struct Folder {
     std::uint64_t device = 1;
@@ -93,7 +93,7 @@ class MemorySystem : public file::System {
   std::string current_ = "/kelmar";
   file::Handle next_handle_ = 3;
   std::uint64_t next_inode_ = 1;
-  std::int64_t now_ = 0;
+  std::chrono::nanoseconds now_{};
 };
 
 }  // namespace support

@@ -18,7 +18,7 @@ class ScriptedDialogs final : public Dialogs {
  public:
   std::deque<Answer> answers;
   std::deque<std::optional<std::string>> choices;
-  std::function<void(const std::string& line)> told = [](const std::string&) {};
+  std::function<void(const std::string& line)> told;
 
   Answer message(std::string_view prompt, std::string_view title, Icon icon, Buttons buttons) override;
   std::optional<std::string> choose_file(const FileRequest& request) override;

@@ -95,19 +95,19 @@ MainWindow::View MainWindow::build(int control) {
     case Kind::TextBox: return build_text_box(control, new QLineEdit(area_));
     case Kind::ComboBox: return build_combo_box(control);
     case Kind::ListBox: return build_list(control);
-    case Kind::Button: {
-      auto* button = new QPushButton(area_);
-      button->setAutoDefault(true);  // Enter presses it
-      connect(button, &QPushButton::clicked, this, [this, control] { run(control); });
-      return {.widget = button, .set_text = [button](QString text) { button->setText(text.replace('&', "&&")); }};
-    }
-    case Kind::MenuItem: {
-      QAction* action = menuBar()->actions().front()->menu()->addAction(QString());
-      connect(action, &QAction::triggered, this, [this, control] { run(control); });
-      return {.action = action, .set_text = [action](const QString& text) { action->setText(text); }};
-    }
+    case Kind::Button: return build_button(control);
+    case Kind::MenuItem: break;
   }
-  return {};
+  QAction* action = menuBar()->actions().front()->menu()->addAction(QString());
+  connect(action, &QAction::triggered, this, [this, control] { run(control); });
+  return {.action = action, .set_text = [action](const QString& text) { action->setText(text); }};
+}
+
+MainWindow::View MainWindow::build_button(int control) {
+  auto* button = new QPushButton(area_);
+  button->setAutoDefault(true);  // Enter presses it
+  connect(button, &QPushButton::clicked, this, [this, control] { run(control); });
+  return {.widget = button, .set_text = [button](QString text) { button->setText(text.replace('&', "&&")); }};
 }
 
 MainWindow::View MainWindow::build_label(int control) {

@@ -45,6 +45,7 @@ class MainWindow : public QMainWindow {
   };
 
   View build(int control);
+  View build_button(int control);
   View build_label(int control);
   View build_line(int control);
   View build_list(int control);
