@@ -197,8 +197,9 @@ TEST_F(Story, DatabaseThatCouldNotBeCopiedIsLeftAlone) {
   failing.click(cmdNewDb);
   EXPECT_EQ(failing.told.size(), 1u) << "the dialog alone";
   watched.before = [](const support::CallInfo&) { return std::nullopt; };
-  const std::string is_another = " is another database than the one that was open, which could not be copied there. Open "
-                                 "the one or the other with the File menu.]";
+  const std::string is_another =
+      " is another database than the one that was open, which could not be copied there. Open "
+      "the one or the other with the File menu.]";
   failing.Save();
   EXPECT_EQ(failing.LastBox(), "[b.iso" + is_another);
   failing.Choose("c.iso");
@@ -211,8 +212,7 @@ TEST_F(Story, DatabaseThatCouldNotBeCopiedIsLeftAlone) {
   failing.Select("FeX");
   failing.type(txtName, std::string(65535, 'n'));
   failing.Save();
-  EXPECT_EQ(failing.LastBox(),
-            "[The species name is longer than 65534 characters. Shorten it.]");
+  EXPECT_EQ(failing.LastBox(), "[The species name is longer than 65534 characters. Shorten it.]");
   failing.type(txtName, "Fe");
   failing.Save();
   EXPECT_EQ(system.content("c.mdb"), lines({"502,\"Fe\",0,1.5,0,0,2,0,0,0,0,2", "1,231,-1,9999"}) + kTrailer);

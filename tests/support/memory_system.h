@@ -44,6 +44,7 @@ class MemorySystem : public file::System {
   void hard_link(const std::string& path, const std::string& existing);  // another name of the same file
   File& at(const std::string& path) { return *files_.at(absolute(path)); }
   Folder& folder(const std::string& path) { return folders_.at(path); }
+  void grow(const std::string& path, std::string_view content) { at(path).content += content, touch(at(path)); }
   bool has(const std::string& path) const { return files_.count(absolute(path)) > 0; }
   std::string content(const std::string& path) const;
   // Every name with its content.

@@ -1,0 +1,434 @@
+// The tables in tests/disk: what the program relies on in a file system, and what a replacement makes of it, on the real
+// disk and on the files in memory on which all tests of faults rest. "= TITLE" begins in an empty folder, "=m" one that
+// needs what only the files in memory have; below it stand operations, with "=> RESULT" where they have one.
+#include <gtest/gtest.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <sys/xattr.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <csignal>
+#include <cstdint>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <map>
+#include <optional>
+#include <sstream>
+#include <string>
+#include <system_error>
+#include <utility>
+#include <vector>
+
+#include "file/replacement.h"
+#include "support/memory_system.h"
+#include "support/watched_system.h"
+
+namespace {
+
+std::vector<std::string> flushed;  // "file" or "folder", for each flush that reached the system
+std::function<void()> before_lock;
+
+}  // namespace
+
+// In place of the C library's, which they call: whether a flush reaches the disk cannot be seen otherwise, and nothing else
+// comes between opening a file and locking it.
+extern "C" int flock(int fd, int operation) noexcept {
+  if (before_lock) std::exchange(before_lock, nullptr)();
+  return static_cast<int>(::syscall(SYS_flock, fd, operation));
+}
+extern "C" int fsync(int fd) {
+  struct stat s {};
+  ::fstat(fd, &s);
+  flushed.emplace_back(S_ISDIR(s.st_mode) ? "folder" : "file");
+  return static_cast<int>(::syscall(SYS_fsync, fd));
+}
+
+namespace {
+
+using file::Follow;
+using file::OpenFile;
+using file::Status;
+using file::Type;
+using support::Call;
+using support::CallInfo;
+
+const file::Spared kSpared{"comp.mdb", "the component database"};
+
+// An empty folder of the disk, entered as a user to whom permissions mean something.
+class Folder {
+ public:
+  Folder() : user_(::geteuid()) {
+    ::umask(022);
+    std::string pattern = std::filesystem::temp_directory_path() / "kelmar-XXXXXX";
+    path = ::mkdtemp(pattern.data());
+    constexpr uid_t kNobody = 65534;
+    if (user_ == 0 && (::chown(path.c_str(), kNobody, static_cast<gid_t>(-1)) != 0 || ::seteuid(kNobody) != 0))
+      ADD_FAILURE() << "cannot become another user";
+    std::filesystem::current_path(path);
+  }
+  ~Folder() {
+    EXPECT_EQ(::seteuid(user_), 0);
+    std::filesystem::current_path("/");
+    std::filesystem::remove_all(path);
+  }
+  std::string path;
+
+ private:
+  uid_t user_;
+};
+
+// A text that ends at the first blank, and what follows that.
+std::pair<std::string, std::string> split(const std::string& text) {
+  const std::size_t blank = std::min(text.find(' '), text.size());
+  return {text.substr(0, blank), text.substr(std::min(blank + 1, text.size()))};
+}
+
+// Carries out operations in a folder of the disk, or in memory.
+class Script {
+ public:
+  Script(file::System& system, std::string folder, support::MemorySystem* memory)
+      : system_(system),
+        watched_(system),
+        folder_(std::move(folder)),
+        memory_(memory) {}
+
+  void play(const std::string& line) {
+    const std::size_t arrow = line.find(" =>");
+    const auto [verb, rest] = split(line.substr(0, arrow));
+    const auto [first, second] = split(rest);
+    const auto operation = operations_.find(verb);
+    ASSERT_NE(operation, operations_.end()) << verb;
+    std::string result = operation->second(first, second);
+    for (std::size_t at; (at = result.find(folder_)) != result.npos;) result.replace(at, folder_.size(), "FOLDER");
+    EXPECT_EQ(result, arrow == line.npos ? "" : line.substr(std::min(arrow + 4, line.size())));
+  }
+
+ private:
+  using Text = const std::string&;
+
+  static std::string said(std::error_code error) { return error ? error.message() : ""; }
+  template <typename Action>
+  static std::string told(Action action) {
+    try {
+      return action().value_or("");
+    } catch (const file::Error& error) {
+      return error.what();
+    }
+  }
+  std::string create(Text name, Text content, file::Access access) {
+    OpenFile file(system_);
+    if (const auto error = system_.create_new(name, access, file.handle())) return said(error);
+    std::size_t put = 0;
+    EXPECT_EQ(system_.write(file.get(), content, put), std::error_code());
+    EXPECT_EQ(put, content.size());
+    Status held;
+    EXPECT_EQ(system_.status(file.get(), held), std::error_code());
+    EXPECT_TRUE(held.same_file(look(name, Follow::Nothing)));
+    const auto error = system_.flush(file.get());
+    return said(error ? error : file.close());
+  }
+  Status look(Text name, Follow follow) {
+    Status status;
+    EXPECT_EQ(system_.status(name, follow, status), std::error_code()) << name;
+    return status;
+  }
+  std::string shown(Text name, Follow follow) {
+    constexpr const char* kTypes[] = {"missing", "plain", "folder", "link", "other"};
+    const Status status = look(name, follow);
+    if (status.type != Type::Plain) return kTypes[static_cast<int>(status.type)];
+    return "plain, " + std::to_string(status.size) + " bytes, " + std::to_string(status.links) + " names" +
+           (status.writable ? "" : ", read-only") + (status.replaceable ? "" : ", fixed");
+  }
+  std::string read(Text name, std::uint64_t offset, std::size_t size) {
+    OpenFile file(system_);
+    if (const auto error = system_.open_read(name, file.handle())) return said(error);
+    std::string bytes(size, '\0');
+    std::size_t got = 0;
+    EXPECT_EQ(system_.read(file.get(), offset, bytes.data(), size, got), std::error_code());
+    return bytes.substr(0, got);
+  }
+  std::string grow(Text name, Text content) {
+    if (memory_ != nullptr) {
+      memory_->grow(name, content);
+    } else {
+      ::usleep(20000);  // longer than a tick of the file system's clock
+      std::ofstream(name, std::ios::app) << content;
+    }
+    return "";
+  }
+  std::string files() {
+    std::string all;
+    for (const auto& [path, content] : memory_->all()) all += path.substr(folder_.size() + 1) + " [" + content + "] ";
+    return all + std::to_string(memory_->open_handles()) + " open";
+  }
+  static Call call_of(Text name) {
+    static const std::map<std::string, Call> kCalls{{"open_read", Call::OpenRead},
+                                                    {"create_new", Call::CreateNew},
+                                                    {"exclude_others", Call::ExcludeOthers},
+                                                    {"read", Call::Read},
+                                                    {"write", Call::Write},
+                                                    {"flush", Call::Flush},
+                                                    {"close", Call::Close},
+                                                    {"status", Call::StatusOfPath},
+                                                    {"status_of_handle", Call::StatusOfHandle},
+                                                    {"take_over", Call::TakeOver},
+                                                    {"rename", Call::Rename},
+                                                    {"without_links", Call::WithoutLinks},
+                                                    {"flush_folder_of", Call::FlushFolder},
+                                                    {"remove", Call::Remove}};
+    return kCalls.at(name);
+  }
+  // The call fails at its nth occurrence, and is not made.
+  std::string fail(Call call, int nth, std::error_code error) {
+    watched_.before = [=, made = 0](const CallInfo& info) mutable -> std::optional<support::Instead> {
+      if (info.call != call || ++made != nth) return std::nullopt;
+      return support::Instead{error};
+    };
+    return "";
+  }
+  template <typename OnDisk, typename InMemory>
+  std::string change(OnDisk on_disk, InMemory in_memory) {
+    if (memory_ != nullptr)
+      in_memory(*memory_);
+    else
+      EXPECT_EQ(on_disk(), 0);
+    return "";
+  }
+
+  file::System& system_;
+  support::WatchedSystem watched_;
+  const std::string folder_;
+  support::MemorySystem* const memory_;
+  std::map<std::string, OpenFile> held_;
+  std::optional<file::Replacement> begun_;
+  Status remembered_;
+
+  using Memory = support::MemorySystem;
+  const std::map<std::string, std::function<std::string(Text, Text)>> operations_{
+      // Files made without the program.
+      {"put", [this](Text a, Text b) { return create(a, b, file::Access::Private); }},
+      {"share", [this](Text a, Text b) { return create(a, b, file::Access::Shared); }},
+      {"grow", [this](Text a, Text b) { return grow(a, b); }},
+      {"link",
+       [this](Text a, Text b) {
+         return change([&] { return ::symlink(b.c_str(), a.c_str()); }, [&](Memory& m) { m.link(a, b); });
+       }},
+      {"hardlink",
+       [this](Text a, Text b) {
+         return change([&] { return ::link(b.c_str(), a.c_str()); }, [&](Memory& m) { m.hard_link(a, b); });
+       }},
+      {"folder",
+       [this](Text a, Text) {
+         return change([&] { return ::mkdir(a.c_str(), 0700); },
+                       [&](Memory& m) { m.add(a, ""), m.at(a).type = Type::Folder, m.add_folder(folder_ + "/" + a); });
+       }},
+      {"pipe",
+       [this](Text a, Text) {
+         return change([&] { return ::mkfifo(a.c_str(), 0600); },
+                       [&](Memory& m) { m.add(a, ""), m.at(a).type = Type::Other; });
+       }},
+      {"chmod",
+       [this](Text a, Text b) {
+         const auto mode = static_cast<mode_t>(std::stoi(b, nullptr, 8));
+         return change([&] { return ::chmod(a.c_str(), mode); },
+                       [&](Memory& m) {
+                         if (a == ".")
+                           m.folder(folder_).writable = (mode & 0200) != 0;
+                         else
+                           m.at(a).mode = mode, m.at(a).writable = (mode & 0200) != 0;
+                       });
+       }},
+      {"far", [this](Text a, Text b) { return memory_->add_folder(a, {.device = 2, .writable = b != "closed"}), ""; }},
+      {"without-locks", [this](Text, Text) { return memory_->folder(folder_).locks = false, ""; }},
+      {"mode",
+       [this](Text a, Text) {
+         std::ostringstream octal;
+         octal << std::oct
+               << (memory_ != nullptr ? memory_->at(a).mode
+                                      : static_cast<unsigned>(std::filesystem::status(a).permissions()));
+         return octal.str();
+       }},
+      {"files", [this](Text, Text) { return files(); }},
+      // One call of the system.
+      {"content", [this](Text a, Text) { return read(a, 0, 1000); }},
+      {"read", [this](Text a, Text b) { return read(a, std::stoull(b), 4); }},
+      {"status", [this](Text a, Text) { return shown(a, Follow::Nothing); }},
+      {"status-followed", [this](Text a, Text) { return shown(a, Follow::Links); }},
+      {"looped",
+       [this](Text a, Text) {
+         Status status;
+         return said(system_.status(a, Follow::Links, status));
+       }},
+      {"compare",
+       [this](Text a, Text b) {
+         const Status x = look(a, Follow::Nothing), y = look(b, Follow::Links);
+         return std::string(x.same_file(y) ? "same file" : "two files") + (x.same_content(y) ? ", same content" : "");
+       }},
+      {"remember", [this](Text a, Text) { return remembered_ = look(a, Follow::Nothing), ""; }},
+      {"changed",
+       [this](Text a, Text) {
+         const Status now = look(a, Follow::Nothing);
+         return std::string(remembered_.same_content(now) ? "no" : remembered_.changed == now.changed ? "by size" : "yes");
+       }},
+      {"exclude",
+       [this](Text a, Text b) {
+         return said(system_.exclude_others(b, held_.try_emplace(a, system_).first->second.handle()));
+       }},
+      {"release", [this](Text a, Text) { return held_.erase(a), ""; }},
+      {"rename", [this](Text a, Text b) { return said(system_.rename(a, b)); }},
+      {"remove", [this](Text a, Text) { return said(system_.remove(a)); }},
+      {"real",
+       [this](Text a, Text) {
+         std::string real;
+         const auto error = system_.without_links(a, real);
+         return error ? said(error) : real;
+       }},
+      {"take-over",
+       [this](Text a, Text b) {
+         OpenFile file(system_);
+         EXPECT_EQ(system_.create_new(a, file::Access::Private, file.handle()), std::error_code());
+         return said(system_.take_over(file.get(), b));
+       }},
+      {"owned", [this](Text a, Text) { return system_.owner_of(a).empty() ? "by nobody" : "by somebody"; }},
+      {"enter", [this](Text a, Text) { return said(system_.change_folder(a == "FOLDER" ? folder_ : folder_ + "/" + a)); }},
+      {"where",
+       [this](Text, Text) {
+         std::string folder;
+         return said(system_.current_folder(folder)) + folder + said(system_.change_drive('C'));
+       }},
+      // What the program does, and what happens beside it.
+      {"replace",
+       [this](Text a, Text b) {
+         return told([&] { return file::Replacement(watched_, "dbnamep.mdb", a, kSpared).commit(b); });
+       }},
+      {"replace-by",
+       [this](Text a, Text b) {
+         return told([&] { return file::Replacement(watched_, a, split(b).first, kSpared).commit(split(b).second); });
+       }},
+      {"begin", [this](Text a, Text) { return begun_.emplace(system_, "dbnamep.mdb", a, kSpared), ""; }},
+      {"finish",
+       [this](Text a, Text) {
+         const std::string result = told([&] { return begun_->commit(a); });
+         return begun_.reset(), result;
+       }},
+      {"copy", [this](Text a, Text b) { return told([&] { return file::copy_over(watched_, a, b, kSpared); }); }},
+      {"read-whole",
+       [this](Text limit, Text a) {
+         return told([&] { return std::optional(file::read_whole(watched_, a, std::stoul(limit))); });
+       }},
+      {"fail",
+       [this](Text a, Text b) {
+         static const std::map<std::string, std::errc> kErrors{{"EIO", std::errc::io_error},
+                                                               {"EACCES", std::errc::permission_denied},
+                                                               {"EPERM", std::errc::operation_not_permitted},
+                                                               {"EINTR", std::errc::interrupted},
+                                                               {"nothing", std::errc()}};
+         return fail(call_of(a), std::stoi(split(b).first), make_error_code(kErrors.at(split(b).second)));
+       }},
+      {"after",
+       [this](Text a, Text b) {
+         watched_.after = [this, call = call_of(a), b = b](const CallInfo& info) {
+           if (info.call == call)
+             play(b.substr(0, b.find("==")) + (b.find("==") == b.npos ? "" : "=>" + b.substr(b.find("==") + 2)));
+         };
+         return "";
+       }},
+      {"waiting",
+       [this](Text a, Text b) {
+         memory_->meanwhile = [this, left = std::stoi(a), b = b]() mutable {
+           if (--left == 0) play(b);
+         };
+         return "";
+       }},
+      {"undisturbed",
+       [this](Text, Text) {
+         watched_.before = [](const CallInfo&) { return std::nullopt; };
+         watched_.after = [](const CallInfo&) {};
+         return "";
+       }},
+  };
+};
+
+class Disk : public testing::TestWithParam<bool> {};
+INSTANTIATE_TEST_SUITE_P(Worlds, Disk, testing::Bool(),
+                         [](const auto& world) { return world.param ? "InMemory" : "OnDisk"; });
+
+TEST_P(Disk, DoesAsTabled) {
+  const bool in_memory = GetParam();
+  int cases = 0;
+  for (const auto& entry : std::filesystem::directory_iterator(DISK_CASES)) {
+    std::ifstream file(entry.path());
+    std::optional<Folder> folder;
+    std::optional<support::MemorySystem> memory;
+    std::optional<Script> script;
+    for (std::string line, title; std::getline(file, line);) {
+      if (line.empty() || line.front() == '#') continue;
+      SCOPED_TRACE(entry.path().filename().string() + ": " + title + ": " + line);
+      if (line.front() == '=') {
+        title = line;
+        script.reset();
+        if (in_memory)
+          script.emplace(memory.emplace(), "/kelmar", &*memory);
+        else if (folder.reset(); line.starts_with("= "))
+          script.emplace(file::system(), folder.emplace().path, nullptr);
+      } else if (script) {
+        script->play(line);
+        ++cases;
+      }
+    }
+  }
+  EXPECT_GT(cases, 100);
+}
+
+// What only a disk has.
+TEST(RealDisk, FlushesReachTheSystem) {
+  const Folder folder;
+  OpenFile file(file::system());
+  ASSERT_EQ(file::system().create_new("a", file::Access::Private, file.handle()), std::error_code());
+  flushed.clear();
+  EXPECT_EQ(file::system().flush(file.get()), std::error_code());
+  EXPECT_EQ(file::system().flush_folder_of(folder.path + "/a"), std::error_code());
+  EXPECT_EQ(flushed, (std::vector<std::string>{"file", "folder"}));
+  EXPECT_EQ(file::system().flush_folder_of("missing/a"), std::errc::no_such_file_or_directory);
+  for (const char* path : {"a", "/a"}) EXPECT_EQ(file::system().flush_folder_of(path), std::error_code());
+  EXPECT_EQ(file::system().close(999), std::errc::bad_file_descriptor);
+  EXPECT_EQ(::signal(SIGXFSZ, SIG_IGN), SIG_IGN) << "a limit on the size of files would end the program";
+}
+
+TEST(RealDisk, AccessListAndUserAttributesAreTakenOver) {
+  const Folder folder;
+  OpenFile a(file::system()), b(file::system()), c(file::system());
+  for (const auto& [name, file] : {std::pair("a", &a), {"b", &b}, {"c", &c}})
+    ASSERT_EQ(file::system().create_new(name, file::Access::Private, file->handle()), std::error_code());
+  // Owner rw, user 1 r, group none, mask r, others none: the system's own form of an access list.
+  const std::uint16_t list[] = {2, 0,      1,      6,  0xFFFF, 0xFFFF, 2,      4,  1, 0,      4,
+                                0, 0xFFFF, 0xFFFF, 16, 4,      0xFFFF, 0xFFFF, 32, 0, 0xFFFF, 0xFFFF};
+  const char* const kList = "system.posix_acl_access";
+  if (::setxattr("a", kList, list, sizeof list, 0) != 0 || ::setxattr("a", "user.note", "mine", 4, 0) != 0)
+    GTEST_SKIP() << "this file system has no attributes";
+  const auto mode = [] { return static_cast<unsigned>(std::filesystem::status("b").permissions()); };
+  char value[100];
+  EXPECT_EQ(file::system().take_over(b.get(), "a"), std::error_code());
+  EXPECT_EQ(::getxattr("b", kList, value, sizeof value), static_cast<ssize_t>(sizeof list));
+  EXPECT_EQ(::getxattr("b", "user.note", value, sizeof value), 4);
+  EXPECT_EQ(mode(), 0640u);
+  // A list that a new file got from its folder goes.
+  EXPECT_EQ(file::system().take_over(b.get(), "c"), std::error_code());
+  EXPECT_EQ(::getxattr("b", kList, value, sizeof value), -1);
+  EXPECT_EQ(mode(), 0600u);
+}
+
+TEST(RealDisk, AFileThatWasReplacedWhileItWasOpenedIsNotHeld) {
+  const Folder folder;
+  std::ofstream("a") << "a";
+  std::ofstream("b") << "b";
+  OpenFile lock(file::system());
+  before_lock = [] { std::filesystem::rename("b", "a"); };
+  EXPECT_EQ(file::system().exclude_others("a", lock.handle()), std::errc::operation_would_block);
+  EXPECT_EQ(file::system().exclude_others("a", lock.handle()), std::error_code());
+}
+
+}  // namespace
