@@ -40,6 +40,7 @@ void frmMaindb::cmdNewDb_Click() {
   // What the program refuses is told; whatever else fails ends the handler in silence.
   std::optional<std::string> warning;
   try {
+    db::refuse_misplaced(system_, state_.open);
     warning = file::copy_over(system_, state_.open.path, *chosen, db::spare_components(state_.compdb));
   } catch (const file::Refusal& refusal) {
     return refuse(refusal.what());
@@ -54,9 +55,9 @@ void frmMaindb::cmdNewDb_Click() {
   set(lblNameDb, *chosen);
   // What was shown under a wrong name goes with it.
   if (was_misnamed && !misnamed && !db::leading_of(state_.open.kind).model) open_database(*chosen);
+  if (warning) refuse(*warning);
   try {
     savedb();
-    if (warning) refuse(*warning);
     if (misnamed) refuse(*misnamed);
   } catch (const file::Refusal& refusal) {
     refuse(refusal.what());

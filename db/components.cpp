@@ -34,7 +34,7 @@ bool ComponentReader::next(Component& component) {
 }
 
 void ComponentReader::fail(const std::string& reason) const {
-  throw file::Error(file::named(fields_.path()) + ", record " + std::to_string(records_) + ": " + reason + ".");
+  throw file::Error(file::named(fields_.name()) + ", record " + std::to_string(records_) + ": " + reason + ".");
 }
 
 ComponentNames component_names(file::System& system, const std::string& path, std::span<const double> numbers) {

@@ -39,7 +39,8 @@ const char* find(const std::array<bool, 256>& table, const char* at) {
 
 }  // namespace
 
-FieldReader::FieldReader(file::System& system, std::string path) : input_(system, std::move(path)) {
+FieldReader::FieldReader(file::System& system, const std::string& path, std::string name)
+    : input_(system, path, std::move(name)) {
   blocks_.push_back(std::make_unique_for_overwrite<Block>());
   blocks_.back()->front() = '\n';
   next_ = end_ = blocks_.back()->data();

@@ -22,8 +22,9 @@ class FieldError : public file::Error {
 
 class FieldReader {
  public:
-  // Throws file::Error when the file cannot be opened.
-  FieldReader(file::System& system, std::string path);
+  // Throws file::Error when the file cannot be opened; messages call it `name`.
+  FieldReader(file::System& system, const std::string& path) : FieldReader(system, path, path) {}
+  FieldReader(file::System& system, const std::string& path, std::string name);
 
   // Begins a record; false at the end of the file, where nothing is left but blank fields and at most one Ctrl-Z, the end
   // mark of old text editors. Forgets the fields read before.
@@ -36,7 +37,7 @@ class FieldReader {
   bool next(std::span<Field> fields);
   bool next(Field& field) { return next(std::span(&field, 1)); }
 
-  const std::string& path() const { return input_.path(); }
+  const std::string& name() const { return input_.name(); }
 
  private:
   // Room for what is left of the last block, for what is read, and for a line end behind it that stops every search.

@@ -1,6 +1,7 @@
 #include "db/number.h"
 
 #include <array>
+#include <cmath>
 #include <system_error>
 
 namespace db {
@@ -35,8 +36,11 @@ void append_number(std::string& out, double value) {
     return;
   }
   std::array<char, 32> buffer;
+  char* const last = buffer.data() + buffer.size();
   const auto end =
-      std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::general, kDigits).ptr;
+      (std::abs(value) < kTooLarge ? std::to_chars(buffer.data(), last, value, std::chars_format::general, kDigits)
+                                   : std::to_chars(buffer.data(), last, value, std::chars_format::general))
+          .ptr;
   const char* from = buffer.data();
   if (*from == '-') out += *from++;
   if (*from == '0') ++from;

@@ -15,8 +15,12 @@ namespace db {
 // double cannot hold.
 inline std::optional<double> parse_number(std::string_view text);
 
+// The largest number that 15 digits can hold lies below this; with so many the larger ones would round to none.
+inline constexpr double kTooLarge = 1.797693134862315E308;
+
 // Appends `value` as the files hold it: at most 15 significant digits, no zero before the point (.5, -.25), integral
-// values without a point (100), an exponent below 1E-04 and from 1E+15 on (1E-05, 1.5E+20); every zero is 0.
+// values without a point (100), an exponent below 1E-04 and from 1E+15 on (1E-05, 1.5E+20); every zero is 0. From kTooLarge
+// on all digits, so that what is written can always be read.
 void append_number(std::string& out, double value);
 std::string format_number(double value);
 

@@ -6,14 +6,21 @@
 
 namespace db {
 
+void refuse_misplaced(file::System& system, const Database& database) {
+  if (!database.misplaced) return;
+  file::Status present;
+  file::require(system.status(database.path, file::Follow::Links, present), "look at", database.path);
+  if (present.type == file::Type::Missing) return;
+  throw file::Refusal(file::named(database.path) +
+                      " is another database than the one that was open, which could not be copied there. Open the one or " +
+                      "the other with the File menu.");
+}
+
 Rewrite::Rewrite(file::System& system, const Database& database, const std::string& compdb, const NewLeading& leading)
     : replacement_(system, kTemporaryFile, database.path, spare_components(compdb)),
-      reader_(system, database.path),
+      reader_(system, replacement_.path(), database.path),
       name_(file::named(database.path)) {
-  if (database.misplaced)
-    throw file::Refusal(name_ +
-                        " is another database than the one that was open, which could not be copied there. Open the one " +
-                        "or the other with the File menu.");
+  refuse_misplaced(system, database);
   constexpr std::size_t kGrowth = 4096;  // room for one more species
   out_.reserve(std::min(replacement_.old_size(), file::kLargestDatabase) + kGrowth);
   LeadingFields fields = reader_.read_leading(leading_of(database.kind));

@@ -23,6 +23,9 @@ struct NewLeading {
   double critical_f = 0;
 };
 
+// Throws file::Refusal when the open database could not be copied to its path and another one lies there.
+void refuse_misplaced(file::System& system, const Database& database);
+
 class Rewrite {
  public:
   // Begins with the leading fields of the kind held, whatever the path says. Throws file::Refusal or file::Error when the

@@ -6,7 +6,7 @@
 
 namespace db {
 std::string SpeciesReader::located_text(const std::string& reason) const {
-  std::string where = file::named(fields_.path());
+  std::string where = file::named(fields_.name());
   if (records_ == 0) {
     where += ", before the first record";
   } else {

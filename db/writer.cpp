@@ -1,5 +1,6 @@
 #include "db/writer.h"
 
+#include <cmath>
 #include <span>
 
 namespace db {
@@ -41,10 +42,9 @@ LineWriter& LineWriter::field(const Field& field) {
   }
   const auto value = parse_number(field.text);
   if (!value) return text(field.text);
-  // The largest doubles, rounded to the digits of a file, are none any more.
-  const std::string written = format_number(*value);
+  if (std::abs(*value) < kTooLarge) return number(*value);
   separate();
-  out_ += parse_number(written) ? std::string_view(written) : field.text;
+  out_ += field.text;
   return *this;
 }
 

@@ -40,9 +40,8 @@ double number_rule(std::string_view text) {
   const auto [stop, error] = std::from_chars(begin, end, value);
   const bool out_of_range = error == std::errc::result_out_of_range;
   if (out_of_range && leading_power(std::string_view(begin, stop)) < 0) return 0;  // too small for a double is as good as 0
-  if (out_of_range || !db::parse_number(db::format_number(value))) {  // the largest grow beyond it with the digits of a file
+  if (out_of_range || value >= db::kTooLarge)
     throw file::Refusal("\"" + file::named(text) + "\" is too large a number. Correct it before saving.");
-  }
   return negative ? -value : value;
 }
 

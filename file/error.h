@@ -18,8 +18,8 @@ class Refusal : public Error {
   using Error::Error;
 };
 
-// A name, path or text for a message: one of more than 80 characters is shortened in the middle, so that no message grows
-// beyond the screen.
+// A name, path or text for a message: one of more than 80 characters is shortened in the middle, and a line end is shown as
+// a blank, so that no message grows beyond the screen.
 std::string named(std::string_view name);
 
 }  // namespace file

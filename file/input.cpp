@@ -6,8 +6,11 @@ namespace file {
 
 std::string named(std::string_view name) {
   constexpr std::size_t kLongest = 80, kHalf = kLongest / 2 - 2;
-  if (name.size() <= kLongest) return std::string(name);
-  return std::string(name.substr(0, kHalf)).append("...").append(name.substr(name.size() - kHalf));
+  std::string shown(name);
+  if (name.size() > kLongest) shown.replace(kHalf, name.size() - 2 * kHalf, "...");
+  for (char& c : shown)
+    if (c == '\r' || c == '\n') c = ' ';
+  return shown;
 }
 
 std::string failure(std::string_view what, const std::string& path, std::error_code error) {
@@ -19,13 +22,16 @@ void require(std::error_code error, std::string_view what, const std::string& pa
   if (error) throw Error(failure(what, path, error));
 }
 
-Input::Input(System& system, std::string path) : system_(system), path_(std::move(path)), file_(system) {
-  require(uninterrupted([&] { return system_.open_read(path_, file_.handle()); }), "open", path_);
+Input::Input(System& system, const std::string& path, std::string name)
+    : system_(system),
+      name_(std::move(name)),
+      file_(system) {
+  require(uninterrupted([&] { return system_.open_read(path, file_.handle()); }), "open", name_);
 }
 
 std::size_t Input::read(std::uint64_t offset, char* bytes, std::size_t size, std::string_view what) const {
   std::size_t got = 0;
-  require(uninterrupted([&] { return system_.read(file_.get(), offset, bytes, size, got); }), what, path_);
+  require(uninterrupted([&] { return system_.read(file_.get(), offset, bytes, size, got); }), what, name_);
   return got;
 }
 

@@ -19,17 +19,18 @@ std::string failure(std::string_view what, const std::string& path, std::error_c
 // An open file, closed with the object.
 class Input {
  public:
-  // Throws Error when `path` is not a plain file that can be opened.
-  Input(System& system, std::string path);
+  // Throws Error when `path` is not a plain file that can be opened; messages call it `name`.
+  Input(System& system, const std::string& path, std::string name);
+  Input(System& system, const std::string& path) : Input(system, path, path) {}
 
   // Reads at most `size` bytes from `offset` on, and none only at the end of the file. Throws Error; `what` says what was
   // tried.
   std::size_t read(std::uint64_t offset, char* bytes, std::size_t size, std::string_view what = "read") const;
-  const std::string& path() const { return path_; }
+  const std::string& name() const { return name_; }
 
  private:
   System& system_;
-  std::string path_;
+  std::string name_;
   OpenFile file_;
 };
 

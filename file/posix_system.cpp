@@ -45,7 +45,7 @@ Status from_stat(const struct stat& s) {
 // O_NONBLOCK keeps a pipe under the name from holding the program up; on a plain file it means nothing.
 std::error_code open_plain(const std::string& path, int flags, Handle& handle) {
   const int fd = ::open(path.c_str(), flags | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
-  if (fd < 0) return last_error();
+  if (fd == -1) return last_error();
   struct stat s {};
   if (::fstat(fd, &s) == 0 && S_ISREG(s.st_mode)) {
     handle = fd;
@@ -59,7 +59,7 @@ std::error_code open_plain(const std::string& path, int flags, Handle& handle) {
 
 // Access list and user attributes. A new file may have got an access list from its folder: that goes if the old one has
 // none.
-std::error_code copy_attributes(int to, const std::string& from) {
+std::error_code copy_attributes(int to, const std::string& from, bool& has_list) {
   std::string names(kLargestAttribute, '\0'), value(kLargestAttribute, '\0');
   const ssize_t length = ::listxattr(from.c_str(), names.data(), names.size());
   if (length < 0) return errno == ENOTSUP ? std::error_code() : last_error();
@@ -69,7 +69,9 @@ std::error_code copy_attributes(int to, const std::string& from) {
     const std::string name = names.c_str() + at;
     if (!name.starts_with("user.") && name != kAccessList) continue;
     const ssize_t size = ::getxattr(from.c_str(), name.c_str(), value.data(), value.size());
-    if (size < 0 || ::fsetxattr(to, name.c_str(), value.data(), static_cast<std::size_t>(size), 0) != 0) return last_error();
+    has_list |= name == kAccessList;
+    if (size == -1 || ::fsetxattr(to, name.c_str(), value.data(), static_cast<std::size_t>(size), 0) != 0)
+      return last_error();
   }
   return {};
 }
@@ -94,14 +96,15 @@ class PosixSystem final : public System {
   std::error_code create_new(const std::string& path, Access access, Handle& handle) override {
     const mode_t mode = access == Access::Private ? 0600 : 0666;
     handle = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
-    return handle < 0 ? last_error() : std::error_code();
+    return handle == -1 ? last_error() : std::error_code();
   }
 
   std::error_code exclude_others(const std::string& path, Handle& handle) override {
     Handle opened = -1;
     // Some file systems lock only what is open for writing, and some files may only be read.
     auto error = open_plain(path, O_RDWR | O_NOFOLLOW, opened);
-    if (error == std::errc::permission_denied) error = open_plain(path, O_RDONLY | O_NOFOLLOW, opened);
+    if (error == std::errc::permission_denied || error == std::errc::operation_not_permitted)
+      error = open_plain(path, O_RDONLY | O_NOFOLLOW, opened);
     if (error) return error;
     const int fd = descriptor(opened);
     error = checked(::flock(fd, LOCK_EX | LOCK_NB));
@@ -142,14 +145,16 @@ class PosixSystem final : public System {
     }, now{};
     if (::stat(path.c_str(), &like) != 0) return last_error();
     std::error_code error;
+    bool has_list = false;
     if (::fchown(fd, like.st_uid, like.st_gid) != 0 && ::fchown(fd, static_cast<uid_t>(-1), like.st_gid) != 0)
       error = last_error();
-    if (::fchmod(fd, like.st_mode & 07777) != 0) error = last_error();  // after the owner, whose change clears some bits
-    if (const auto failed = copy_attributes(fd, path)) return failed;
+    // Before the mode, which would lend what a list withholds; the mode after the owner, whose change clears some bits.
+    if (const auto failed = copy_attributes(fd, path, has_list)) return failed;
+    if (::fchmod(fd, like.st_mode & 07777) != 0) error = last_error();
     if (::fstat(fd, &now) != 0) return last_error();
     constexpr mode_t kReadAndWrite = S_IROTH | S_IWOTH;
     const bool same_mode = ((now.st_mode ^ like.st_mode) & (S_IRUSR | S_IWUSR | S_IRGRP | S_IWGRP | kReadAndWrite)) == 0;
-    const bool group_matters = ((like.st_mode >> 3) & kReadAndWrite) != (like.st_mode & kReadAndWrite);
+    const bool group_matters = has_list || ((like.st_mode >> 3) & kReadAndWrite) != (like.st_mode & kReadAndWrite);
     if (same_mode && (now.st_gid == like.st_gid || !group_matters)) return {};
     return error ? error : make_error_code(std::errc::operation_not_permitted);
   }
@@ -182,6 +187,7 @@ class PosixSystem final : public System {
   std::string owner_of(const std::string& path) override {
     struct stat s {};
     if (::lstat(path.c_str(), &s) != 0) return "somebody";
+    if (s.st_uid == ::geteuid()) return "";
     const passwd* const user = ::getpwuid(s.st_uid);
     return user != nullptr ? user->pw_name : "user " + std::to_string(s.st_uid);
   }
@@ -202,7 +208,7 @@ class PosixSystem final : public System {
 
   std::error_code flush_folder_of(const std::string& path) override {
     const int fd = ::open(folder_of(path).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (fd < 0) return last_error();
+    if (fd == -1) return last_error();
     // Some file systems have nothing to flush for a folder and say so with EINVAL.
     const std::error_code error = ::fsync(fd) == 0 || errno == EINVAL ? std::error_code() : last_error();
     ::close(fd);

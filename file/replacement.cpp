@@ -60,11 +60,14 @@ void Replacement::exclude_others() {
 // else can read what is written.
 Access Replacement::access() const { return before_.type == Type::Missing ? Access::Shared : Access::Private; }
 
+// What the target has (permissions, an access list) the file system of the temporary file may not even know.
+bool Replacement::is_far() const { return before_.type == Type::Plain && !temporary_->created().same_device(before_); }
+
 std::error_code Replacement::try_rename(std::string_view content) {
   temporary_->write(content, before_.type == Type::Missing ? nullptr : &target_);
-  // Another program, which knows nothing of this one, may have changed the database since it was read.
+  // Another program, which knows nothing of this one, may have changed the database since it was read, or a link to it.
   Status now;
-  require(system_.status(target_, Follow::Nothing, now), "look at", target_);
+  require(system_.status(name_, Follow::Links, now), "look at", name_);
   if (!now.same_content(before_))
     throw Refusal(named(name_) + " was changed by another program while it was being saved, and is left as that made it. " +
                   "Show the species again and repeat the change.");
@@ -74,13 +77,14 @@ std::error_code Replacement::try_rename(std::string_view content) {
 }
 
 std::optional<std::string> Replacement::commit(std::string_view content) {
-  auto error = try_rename(content);
+  auto error = is_far() ? make_error_code(std::errc::cross_device_link) : try_rename(content);
   if (error == std::errc::cross_device_link) {
     // From another file system a file cannot be renamed: a second one in the target's own folder can.
     temporary_.emplace(system_, target_ + kBeside, access(), spared_);
     error = try_rename(content);
   }
-  if (is_denied(error) && before_.type == Type::Plain) throw closed_folder(name_);
+  const bool closed = is_denied(error) || error == std::errc::device_or_resource_busy;  // something is mounted there
+  if (closed && before_.type == Type::Plain) throw closed_folder(name_);
   require(error, "replace", target_);
   // Left out, a power cut could bring the old name back, with the old content, after the user was told of the new one.
   error = uninterrupted([&] { return system_.flush_folder_of(target_); });

@@ -24,6 +24,8 @@ class Replacement {
   Replacement(const Replacement&) = delete;
   Replacement& operator=(const Replacement&) = delete;
 
+  // The target without links: what is read for the new content must be read here, wherever a link leads meanwhile.
+  const std::string& path() const { return target_; }
   // The size of the target before the replacement, in bytes.
   std::size_t old_size() const { return static_cast<std::size_t>(before_.size); }
 
@@ -36,6 +38,7 @@ class Replacement {
   void look_at_target();
   void exclude_others();
   Access access() const;
+  bool is_far() const;
   std::error_code try_rename(std::string_view content);
 
   System& system_;

@@ -26,12 +26,13 @@ struct Status {
   bool replaceable = false;  // its folder lets this user put another file in its place
   std::uint64_t size = 0;
   std::uint64_t links = 0;                  // number of names (hard links)
-  std::array<std::uint64_t, 2> identity{};  // the same means the same file
+  std::array<std::uint64_t, 2> identity{};  // file system and number in it: the same means the same file
   std::chrono::nanoseconds changed{};       // when; any change of the file changes it
 
   bool same_file(const Status& other) const {
     return type != Type::Missing && other.type != Type::Missing && identity == other.identity;
   }
+  bool same_device(const Status& other) const { return identity[0] == other.identity[0]; }
   // The same file with the same content, or no file both times.
   bool same_content(const Status& other) const {
     return type == other.type &&
@@ -68,7 +69,7 @@ class System {
 
   virtual std::error_code status(const std::string& path, Follow follow, Status& status) = 0;
   virtual std::error_code status(Handle handle, Status& status) = 0;
-  // The name of the user whose file it is.
+  // The name of the user whose file it is; nothing for a file of this user.
   virtual std::string owner_of(const std::string& path) = 0;
   // The path of an existing file without links.
   virtual std::error_code without_links(const std::string& path, std::string& real) = 0;

@@ -1,6 +1,7 @@
 #include "file/temporary_file.h"
 
 #include <filesystem>
+#include <new>
 #include <utility>
 
 namespace file {
@@ -45,7 +46,10 @@ TemporaryFile::TemporaryFile(System& system, std::string path, Access access, co
 }
 
 TemporaryFile::~TemporaryFile() {
-  if (ours_ && !is_taken()) uninterrupted([&] { return system_.remove(path_); });
+  try {
+    if (ours_ && !is_taken()) uninterrupted([&] { return system_.remove(path_); });
+  } catch (const std::bad_alloc&) {  // the next save removes it
+  }
 }
 
 // False while another editor has the name. The file is never opened through a link and never emptied: what lies under the
@@ -79,12 +83,10 @@ bool TemporaryFile::remove_leftover() {
   auto error = uninterrupted([&] { return system_.exclude_others(path_, leftover.handle()); });
   if (error == std::errc::operation_would_block) return false;
   if (!error || error == std::errc::not_supported) error = uninterrupted([&] { return system_.remove(path_); });
-  if (is_denied(error)) {
-    const std::string owner = system_.owner_of(path_);
+  if (const std::string owner = is_denied(error) ? system_.owner_of(path_) : ""; !owner.empty())
     throw Refusal(named(path_) + " belongs to " + owner +
                   ", whose saving in this folder is not done or was interrupted. Try " +
                   "again in a while; if the file stays, have " + owner + " remove it.");
-  }
   if (error != std::errc::no_such_file_or_directory) require(error, "remove", path_);
   return true;
 }

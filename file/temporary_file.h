@@ -42,6 +42,8 @@ class TemporaryFile {
   TemporaryFile(const TemporaryFile&) = delete;
   TemporaryFile& operator=(const TemporaryFile&) = delete;
 
+  const Status& created() const { return created_; }
+
   // Writes the whole content to the disk and reads it back; the file at `like`, if any, is the one whose permissions it
   // gets. Once only. Throws Error.
   void write(std::string_view content, const std::string* like);

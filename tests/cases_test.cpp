@@ -25,6 +25,7 @@
 #include "edit/suggestion.h"
 #include "edit/values.h"
 #include "support/story.h"
+#include "ui/code_page.h"
 #include "ui/type_ahead.h"
 
 namespace {
@@ -214,6 +215,12 @@ const std::map<std::string, std::function<std::string(const Arguments&)>> kOpera
     {"rule", [](const Arguments& a) { return rule(a, edit::number_rule); }},
     {"comma", [](const Arguments& a) { return rule(a, edit::comma_number); }},
     {"kind", [](const Arguments& a) { return std::string(db::name_of(db::kind_of(a[0])).extension); }},
+    {"unicode",
+     [](const Arguments& a) {
+       std::ostringstream text;
+       for (const char16_t c : ui::path_to_unicode(a[0])) text << " " << std::hex << static_cast<unsigned>(c);
+       return text.str();
+     }},
     {"folder", [](const Arguments& a) { return app::working_folder(a[0]); }},
     {"donnica", [](const Arguments& a) { return std::string(db::is_donnica(a[0]) ? "yes" : "no"); }},
     {"range", [](const Arguments& a) { return std::to_string(static_cast<int>(edit::range_of(std::stod(a[0])))); }},

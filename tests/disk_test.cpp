@@ -1,6 +1,7 @@
 // The tables in tests/disk: what the program relies on in a file system, and what a replacement makes of it, on the real
 // disk and on the files in memory on which all tests of faults rest. "= TITLE" begins in an empty folder, "=m" one that
 // needs what only the files in memory have; below it stand operations, with "=> RESULT" where they have one.
+#include <grp.h>
 #include <gtest/gtest.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -9,11 +10,13 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <csignal>
 #include <cstdint>
 #include <filesystem>
 #include <fstream>
 #include <functional>
+#include <iterator>
 #include <map>
 #include <optional>
 #include <sstream>
@@ -30,20 +33,31 @@ namespace {
 
 std::vector<std::string> flushed;  // "file" or "folder", for each flush that reached the system
 std::function<void()> before_lock;
+std::map<std::string, int> failing;  // the error that a call gives
+
+template <typename... Arguments>
+int call(const char* name, long number, Arguments... arguments) {
+  const auto failure = failing.find(name);
+  if (failure == failing.end()) return static_cast<int>(::syscall(number, arguments...));
+  errno = failure->second;
+  return -1;
+}
 
 }  // namespace
 
-// In place of the C library's, which they call: whether a flush reaches the disk cannot be seen otherwise, and nothing else
-// comes between opening a file and locking it.
+// In place of the C library's: whether a flush reaches the disk cannot be seen otherwise, nothing else comes between opening
+// a file and locking it, and few disks fail as these do.
 extern "C" int flock(int fd, int operation) noexcept {
   if (before_lock) std::exchange(before_lock, nullptr)();
-  return static_cast<int>(::syscall(SYS_flock, fd, operation));
+  return call("flock", SYS_flock, fd, operation);
 }
+extern "C" int fchmod(int fd, mode_t mode) noexcept { return call("fchmod", SYS_fchmod, fd, mode); }
+extern "C" int fremovexattr(int fd, const char* name) noexcept { return call("fremovexattr", SYS_fremovexattr, fd, name); }
 extern "C" int fsync(int fd) {
   struct stat s {};
   ::fstat(fd, &s);
   flushed.emplace_back(S_ISDIR(s.st_mode) ? "folder" : "file");
-  return static_cast<int>(::syscall(SYS_fsync, fd));
+  return call("fsync", SYS_fsync, fd);
 }
 
 namespace {
@@ -79,6 +93,11 @@ class Folder {
  private:
   uid_t user_;
 };
+
+constexpr const char* kAccessList = "system.posix_acl_access";
+// Owner rw, user 1 r, group none, mask r, others none: the system's own form of an access list.
+constexpr std::uint16_t kList[] = {2, 0,      1,      6,  0xFFFF, 0xFFFF, 2,      4,  1, 0,      4,
+                                   0, 0xFFFF, 0xFFFF, 16, 4,      0xFFFF, 0xFFFF, 32, 0, 0xFFFF, 0xFFFF};
 
 // A text that ends at the first blank, and what follows that.
 std::pair<std::string, std::string> split(const std::string& text) {
@@ -238,10 +257,11 @@ class Script {
                          if (a == ".")
                            m.folder(folder_).writable = (mode & 0200) != 0;
                          else
-                           m.at(a).mode = mode, m.at(a).writable = (mode & 0200) != 0;
+                           m.at(a).mode = mode, m.at(a).writable = (mode & 0200) != 0, m.grow(a, "");
                        });
        }},
       {"far", [this](Text a, Text b) { return memory_->add_folder(a, {.device = 2, .writable = b != "closed"}), ""; }},
+      {"own", [this](Text a, Text b) { return memory_->at(a).owner = b, ""; }},
       {"without-locks", [this](Text, Text) { return memory_->folder(folder_).locks = false, ""; }},
       {"mode",
        [this](Text a, Text) {
@@ -292,7 +312,7 @@ class Script {
          EXPECT_EQ(system_.create_new(a, file::Access::Private, file.handle()), std::error_code());
          return said(system_.take_over(file.get(), b));
        }},
-      {"owned", [this](Text a, Text) { return system_.owner_of(a).empty() ? "by nobody" : "by somebody"; }},
+      {"owned", [this](Text a, Text) { return "by " + (system_.owner_of(a).empty() ? "this user" : system_.owner_of(a)); }},
       {"enter", [this](Text a, Text) { return said(system_.change_folder(a == "FOLDER" ? folder_ : folder_ + "/" + a)); }},
       {"where",
        [this](Text, Text) {
@@ -325,6 +345,8 @@ class Script {
                                                                {"EACCES", std::errc::permission_denied},
                                                                {"EPERM", std::errc::operation_not_permitted},
                                                                {"EINTR", std::errc::interrupted},
+                                                               {"EBUSY", std::errc::device_or_resource_busy},
+                                                               {"ENOENT", std::errc::no_such_file_or_directory},
                                                                {"nothing", std::errc()}};
          return fail(call_of(a), std::stoi(split(b).first), make_error_code(kErrors.at(split(b).second)));
        }},
@@ -359,6 +381,10 @@ INSTANTIATE_TEST_SUITE_P(Worlds, Disk, testing::Bool(),
 TEST_P(Disk, DoesAsTabled) {
   const bool in_memory = GetParam();
   int cases = 0;
+  const auto open_files = [] {
+    return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), std::filesystem::directory_iterator());
+  };
+  const auto usual = open_files();
   for (const auto& entry : std::filesystem::directory_iterator(DISK_CASES)) {
     std::ifstream file(entry.path());
     std::optional<Folder> folder;
@@ -370,10 +396,13 @@ TEST_P(Disk, DoesAsTabled) {
       if (line.front() == '=') {
         title = line;
         script.reset();
-        if (in_memory)
-          script.emplace(memory.emplace(), "/kelmar", &*memory);
-        else if (folder.reset(); line.starts_with("= "))
+        EXPECT_EQ(open_files(), usual + 2) << "and those of the tables";
+        if (in_memory) {
+          memory.emplace();
+          script.emplace(*memory, "/kelmar", &*memory);
+        } else if (folder.reset(); line.starts_with("= ")) {
           script.emplace(file::system(), folder.emplace().path, nullptr);
+        }
       } else if (script) {
         script->play(line);
         ++cases;
@@ -394,6 +423,11 @@ TEST(RealDisk, FlushesReachTheSystem) {
   EXPECT_EQ(flushed, (std::vector<std::string>{"file", "folder"}));
   EXPECT_EQ(file::system().flush_folder_of("missing/a"), std::errc::no_such_file_or_directory);
   for (const char* path : {"a", "/a"}) EXPECT_EQ(file::system().flush_folder_of(path), std::error_code());
+  failing["fsync"] = EINVAL;  // as some file systems say that there is nothing to flush for a folder
+  EXPECT_EQ(file::system().flush_folder_of("a"), std::error_code());
+  failing["fsync"] = EIO;
+  EXPECT_EQ(file::system().flush_folder_of("a"), std::errc::io_error);
+  failing.clear();
   EXPECT_EQ(file::system().close(999), std::errc::bad_file_descriptor);
   EXPECT_EQ(::signal(SIGXFSZ, SIG_IGN), SIG_IGN) << "a limit on the size of files would end the program";
 }
@@ -403,21 +437,19 @@ TEST(RealDisk, AccessListAndUserAttributesAreTakenOver) {
   OpenFile a(file::system()), b(file::system()), c(file::system());
   for (const auto& [name, file] : {std::pair("a", &a), {"b", &b}, {"c", &c}})
     ASSERT_EQ(file::system().create_new(name, file::Access::Private, file->handle()), std::error_code());
-  // Owner rw, user 1 r, group none, mask r, others none: the system's own form of an access list.
-  const std::uint16_t list[] = {2, 0,      1,      6,  0xFFFF, 0xFFFF, 2,      4,  1, 0,      4,
-                                0, 0xFFFF, 0xFFFF, 16, 4,      0xFFFF, 0xFFFF, 32, 0, 0xFFFF, 0xFFFF};
-  const char* const kList = "system.posix_acl_access";
-  if (::setxattr("a", kList, list, sizeof list, 0) != 0 || ::setxattr("a", "user.note", "mine", 4, 0) != 0)
+  if (::setxattr("a", kAccessList, kList, sizeof kList, 0) != 0 || ::setxattr("a", "user.note", "mine", 4, 0) != 0 ||
+      ::setxattr("a", "user.empty", "", 0, 0) != 0)
     GTEST_SKIP() << "this file system has no attributes";
   const auto mode = [] { return static_cast<unsigned>(std::filesystem::status("b").permissions()); };
   char value[100];
-  EXPECT_EQ(file::system().take_over(b.get(), "a"), std::error_code());
-  EXPECT_EQ(::getxattr("b", kList, value, sizeof value), static_cast<ssize_t>(sizeof list));
+  for (int i = 0; i < 2; ++i) EXPECT_EQ(file::system().take_over(b.get(), "a"), std::error_code());
+  EXPECT_EQ(::getxattr("b", "user.empty", value, sizeof value), 0);
+  EXPECT_EQ(::getxattr("b", kAccessList, value, sizeof value), static_cast<ssize_t>(sizeof kList));
   EXPECT_EQ(::getxattr("b", "user.note", value, sizeof value), 4);
   EXPECT_EQ(mode(), 0640u);
   // A list that a new file got from its folder goes.
   EXPECT_EQ(file::system().take_over(b.get(), "c"), std::error_code());
-  EXPECT_EQ(::getxattr("b", kList, value, sizeof value), -1);
+  EXPECT_EQ(::getxattr("b", kAccessList, value, sizeof value), -1);
   EXPECT_EQ(mode(), 0600u);
 }
 
@@ -426,9 +458,93 @@ TEST(RealDisk, AFileThatWasReplacedWhileItWasOpenedIsNotHeld) {
   std::ofstream("a") << "a";
   std::ofstream("b") << "b";
   OpenFile lock(file::system());
-  before_lock = [] { std::filesystem::rename("b", "a"); };
-  EXPECT_EQ(file::system().exclude_others("a", lock.handle()), std::errc::operation_would_block);
-  EXPECT_EQ(file::system().exclude_others("a", lock.handle()), std::error_code());
+  const std::function<void()> changes[] = {[] { std::filesystem::rename("b", "a"); }, [] { std::filesystem::remove("a"); }};
+  for (const auto& change : changes) {
+    before_lock = change;
+    EXPECT_EQ(file::system().exclude_others("a", lock.handle()), std::errc::operation_would_block);
+    EXPECT_EQ(!file::system().exclude_others("a", lock.handle()), std::filesystem::exists("a"));
+    lock.close();
+  }
+  std::ofstream("a") << "a";
+  for (const auto& [error, told] :
+       {std::pair(ENOLCK, std::errc::not_supported), {ENOSYS, std::errc::not_supported}, {EIO, std::errc::io_error}}) {
+    failing["flock"] = error;
+    EXPECT_EQ(file::system().exclude_others("a", lock.handle()), told);
+  }
+  failing.clear();
+}
+
+// A group that a user cannot give, a folder in which files may be removed by their owners alone: as others meet them.
+TEST(RealDisk, WhatMattersOfOwnerGroupAndModeIsKept) {
+  if (::geteuid() != 0) GTEST_SKIP() << "only root can make files of others";
+  constexpr uid_t kNobody = 65534;
+  constexpr gid_t kOurs = 12346, kTheirs = 12345;
+  const Folder folder;
+  const auto as = [](uid_t user) { EXPECT_EQ(::seteuid(user), 0); };
+  as(0);
+  std::vector<gid_t> before(static_cast<std::size_t>(::getgroups(0, nullptr)));
+  EXPECT_EQ(::getgroups(static_cast<int>(before.size()), before.data()) + ::setgroups(1, &kOurs), std::ssize(before));
+  const auto take_over = [&](uid_t user) {
+    as(user);
+    std::filesystem::remove("new");
+    OpenFile file(file::system());
+    EXPECT_EQ(file::system().create_new("new", file::Access::Private, file.handle()), std::error_code());
+    const auto error = file::system().take_over(file.get(), "like");
+    as(0);
+    failing.clear();
+    return error;
+  };
+  const struct {
+    uid_t user;
+    gid_t group;
+    mode_t mode;
+    bool taken;
+  } rows[] = {{kNobody, kOurs, 0640, true},    {kNobody, kTheirs, 0640, false}, {kNobody, kTheirs, 0604, false},
+              {kNobody, kTheirs, 0644, true},  {kNobody, kTheirs, 0600, true},  {kNobody, kTheirs, 0666, true},
+              {kNobody, kTheirs, 0646, false}, {0, kTheirs, 0640, true}};
+  struct stat s {};
+  for (const auto& row : rows) {
+    std::ofstream("like") << "x";
+    EXPECT_EQ(::chown("like", 4711, row.group) + ::chmod("like", row.mode), 0);
+    EXPECT_EQ(!take_over(row.user), row.taken) << std::oct << row.mode;
+    EXPECT_EQ(::stat("new", &s), 0);
+    EXPECT_EQ(s.st_uid, row.user == 0 ? 4711 : kNobody);
+    EXPECT_EQ(s.st_gid == row.group, row.group == kOurs || row.user == 0);
+  }
+  // A list of access makes the group matter; a mode that cannot be set matters where it differs.
+  const bool listed = ::setxattr("like", kAccessList, kList, sizeof kList, 0) == 0;
+  EXPECT_EQ(!take_over(kNobody), !listed);
+  std::filesystem::remove("like");
+  std::ofstream("like") << "x";
+  for (const auto& [mode, error] : {std::pair(mode_t{0600}, 0), {mode_t{0644}, EROFS}}) {
+    EXPECT_EQ(::chmod("like", mode), 0);
+    failing["fchmod"] = EROFS;
+    EXPECT_EQ(take_over(0).value(), error);
+  }
+  for (const auto& [failure, error] : {std::pair(ENODATA, 0), {ENOTSUP, 0}, {EIO, EIO}}) {
+    failing["fremovexattr"] = failure;
+    EXPECT_EQ(take_over(0).value(), error);
+  }
+  // Whose files may be replaced in a folder that sticks.
+  const struct {
+    uid_t user, owner, folder_owner;
+    mode_t folder_mode;
+    bool replaceable;
+  } folders[] = {{kNobody, 4711, 0, 01777, false}, {kNobody, kNobody, 0, 01777, true}, {kNobody, 4711, kNobody, 01777, true},
+                 {kNobody, 4711, 0, 0777, true},   {0, 4711, 4711, 01777, true},       {1, 4711, 0, 01777, false}};
+  for (const auto& row : folders) {
+    EXPECT_EQ(::chown("like", row.owner, 0) + ::chown(".", row.folder_owner, 0) + ::chmod(".", row.folder_mode), 0);
+    as(row.user);
+    Status status;
+    EXPECT_EQ(file::system().status("like", Follow::Nothing, status), std::error_code());
+    as(0);
+    EXPECT_EQ(status.replaceable, row.replaceable) << &row - folders;
+  }
+  EXPECT_EQ(file::system().owner_of("like"), "user 4711");
+  EXPECT_EQ(::chown("like", kNobody, 0), 0);
+  EXPECT_EQ(file::system().owner_of("like"), "nobody");
+  EXPECT_EQ(file::system().owner_of("missing"), "somebody");
+  EXPECT_EQ(::setgroups(before.size(), before.data()), 0);
 }
 
 }  // namespace

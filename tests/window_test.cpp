@@ -202,10 +202,16 @@ TEST_F(Story, DatabaseThatCouldNotBeCopiedIsLeftAlone) {
       "the one or the other with the File menu.]";
   failing.Save();
   EXPECT_EQ(failing.LastBox(), "[b.iso" + is_another);
+  system.remove("b.iso");
+  failing.Save();
+  EXPECT_EQ(failing.LastBox(),
+            "[The database was not saved: cannot open b.iso: No such file or directory. Put that right and save again.]");
+  system.add("b.iso", other);
+  system.add("c.iso", "precious");
   failing.Choose("c.iso");
   failing.click(cmdNewDb);
-  EXPECT_EQ(failing.LastBox(), "[c.iso" + is_another);
-  EXPECT_EQ(system.content("b.iso") + system.content("c.iso"), other + other);
+  EXPECT_EQ(failing.LastBox(), "[b.iso" + is_another);
+  EXPECT_EQ(system.content("b.iso") + system.content("c.iso"), other + "precious");
   failing.Choose("c.mdb");
   system.add("c.mdb", other);
   failing.click(mnuFileOpen);
@@ -216,6 +222,29 @@ TEST_F(Story, DatabaseThatCouldNotBeCopiedIsLeftAlone) {
   failing.type(txtName, "Fe");
   failing.Save();
   EXPECT_EQ(system.content("c.mdb"), lines({"502,\"Fe\",0,1.5,0,0,2,0,0,0,0,2", "1,231,-1,9999"}) + kTrailer);
+}
+
+// What is read is what is locked, wherever a link leads meanwhile.
+TEST_F(Story, ChangesTheDatabaseThatIsLocked) {
+  support::WatchedSystem watched(system);
+  Program waiting(watched);
+  const std::string a = species("501", "CuX") + species("502", "FeX") + kTrailer, b = species("503", "CuX") + kTrailer;
+  system.add("a.mdb", a);
+  system.add("b.mdb", b);
+  Start("y.mdb", "");
+  system.link("x.mdb", "a.mdb");
+  system.add("sorptemp.dat", "x.mdb");
+  waiting.form.load();
+  waiting.Select("CuX");
+  waiting.type(txtlogk, "7");
+  watched.after = [this](const support::CallInfo& info) {
+    if (info.call == support::Call::CreateNew) system.link("x.mdb", "b.mdb");
+    if (info.call == support::Call::Read) system.link("x.mdb", "a.mdb");
+  };
+  waiting.Save();
+  EXPECT_EQ(system.content("a.mdb"),
+            lines({"501,\"CuX\",0,7,0,0,2,0,0,0,0,2", "1,231,-1,9999"}) + species("502", "FeX") + kTrailer);
+  EXPECT_EQ(system.content("b.mdb"), b);
 }
 
 // Whatever happens to the window while the question stands, what it was asked about is deleted.

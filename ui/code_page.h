@@ -3,6 +3,8 @@
 
 #include <array>
 #include <optional>
+#include <string>
+#include <string_view>
 
 namespace ui {
 
@@ -25,5 +27,8 @@ constexpr std::optional<char> from_unicode(char16_t character) {
     if (kCodePage[i] == character) return static_cast<char>(0x80 + i);
   return std::nullopt;
 }
+
+// A path, or a message that names one: UTF-8, as the system's file names are, and every byte that is none by the code page.
+std::u16string path_to_unicode(std::string_view bytes);
 
 }  // namespace ui

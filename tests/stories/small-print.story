@@ -3,6 +3,7 @@
 put f.iso
 | "Freundlich"
 | 11500000,"/FA-",0,1.5,0,7,2,0,0,0,0,0
+| 11500000,"/HA-",0,1.5,0,7,2,0,0,0,0,0
 | 11500000,"Lk2X",0,1.5,0,7,2,0,0,0,0,0
 | 501,"MbX",0,1.5,0,0,2,0,0,0,0,102
 | 1,231,2,330
@@ -39,8 +40,9 @@ lblMB shown [M.B.*]
 lblMBnote shown [* Leave M.B. field blank if the M.B. stoichiometry is equal to the M.A. stocihiometry]
 lblNameDb shown [f.iso]
 lbldhr hidden [dHr (kJ/mol)]
-lstReactions shown [/FA-] 4
+lstReactions shown [/FA-] 5
   [/FA-]
+  [/HA-]
   [Lk2X]
   [MbX]
   [ManyX]
@@ -53,21 +55,32 @@ txtdhr hidden [  0]
 txtlogk shown [  1.5]
 > select 1
 > state
-lblLk2 shown [Lk2]
-lstReactions shown [Lk2X] 4
+lstReactions shown [/HA-] 5
   [/FA-]
+  [/HA-]
+  [Lk2X]
+  [MbX]
+  [ManyX]
+txtName shown [/HA-]
+> select 2
+> state
+lblLk2 shown [Lk2]
+lstReactions shown [Lk2X] 5
+  [/FA-]
+  [/HA-]
   [Lk2X]
   [MbX]
   [ManyX]
 txtLk2 shown [  7]
 txtName shown [Lk2X]
-> select 2
+> select 3
 > state
 lblLk2 hidden [Lk2]
 lblStoich(1) shown [Stoichiometry of 1st component]
 lblStoich(2) shown [Stoichiometry of 2nd component]
-lstReactions shown [MbX] 4
+lstReactions shown [MbX] 5
   [/FA-]
+  [/HA-]
   [Lk2X]
   [MbX]
   [ManyX]
@@ -87,7 +100,7 @@ box [Species change - Kelmar] question YesNo [Are you really sure you would like
 > choose no-components.mdb
 > click cmdCompdb
 dialog save [Kelmar database files (*.MDB)|*.MDB]
-> select 3
+> select 4
 box [Kelmar error] critical OK [The components are shown by number: cannot open no-components.mdb: No such file or directory. Choose another component database, or mend this one. ManyX has 10 components: the window holds eight, and the others stay in the database unseen. Change this species with a text editor.]
 > state
 changedone [N]
@@ -98,8 +111,9 @@ lblStoich(5) shown [Stoichiometry of 5th component]
 lblStoich(6) shown [Stoichiometry of 6th component]
 lblStoich(7) shown [Stoichiometry of 7th component]
 lblStoich(8) shown [Stoichiometry of 8th component]
-lstReactions shown [ManyX] 4
+lstReactions shown [ManyX] 5
   [/FA-]
+  [/HA-]
   [Lk2X]
   [MbX]
   [ManyX]

@@ -105,7 +105,7 @@ box [Kelmar error] critical OK [other.mdb is another database than the one that 
 > choose copy.mdb
 > click cmdNewDb
 dialog save [Sorption database files (*.MDB)|*.MDB]
-box [Kelmar error] critical OK [copy.mdb is another database than the one that was open, which could not be copied there. Open the one or the other with the File menu.]
+box [Kelmar error] critical OK [other.mdb is another database than the one that was open, which could not be copied there. Open the one or the other with the File menu.]
 > state
 cboComp shown [] 59
   [Ag+]
@@ -171,10 +171,9 @@ cmdDelete hidden [Delete this species]
 cmdNextcomp shown [Next component]
 cmdSuggest shown [Suggest ID number]
 compslot 1
-dbname [copy.mdb]
+dbname [other.mdb]
 lblAddnew shown [Add new species:]
 lblComp shown [Component no. 1]
-lblNameDb shown [copy.mdb]
 lblSpname shown [Species name]
 lstReactions shown [New] 1
   [New]
@@ -185,14 +184,6 @@ txtSpname shown [New]
 txtStoicn shown []
 txtdhr shown []
 txtlogk shown [1]
-file copy.mdb
-+ 501,"CuX",0,4,0,0,2,0,0,0,0,0
-+ 0,"",0,0,0,0,0,0,0,0
-+ 0,0
-+ 0,"For KELMAR",0,0,0,0,0,0,0,0
-+ 0,0
-+ 0,"",0,0,0,0,0,0,0,0
-+ 0,0
 file new.mdb
 + 501,"CuX",0,9,0,0,2,0,0,0,0,0
 + 0,"",0,0,0,0,0,0,0,0

@@ -168,7 +168,7 @@ std::error_code MemorySystem::status(Handle handle, file::Status& status) {
   return {};
 }
 
-std::string MemorySystem::owner_of(const std::string&) { return "ada"; }
+std::string MemorySystem::owner_of(const std::string& path) { return at(path).owner; }
 
 std::error_code MemorySystem::without_links(const std::string& path, std::string& real) {
   real = followed(path);

@@ -24,6 +24,7 @@ class MemorySystem : public file::System {
     std::uint32_t mode = 0644;
     bool writable = true;
     std::string attributes;  // beyond the permissions
+    std::string owner;       // another user
     bool locked = false;
     std::uint64_t inode = 0;
     std::chrono::nanoseconds changed{};

@@ -1,7 +1,5 @@
 #include "ui/qt/text.h"
 
-#include <QStringDecoder>
-
 #include "ui/code_page.h"
 
 namespace ui::qt {
@@ -26,11 +24,7 @@ std::string to_bytes(const QString& text, int* lost) {
   return bytes;
 }
 
-QString from_path(std::string_view bytes) {
-  QStringDecoder decode(QStringDecoder::System);
-  const QString text = decode(QByteArrayView(bytes.data(), static_cast<qsizetype>(bytes.size())));
-  return decode.hasError() ? from_bytes(bytes) : text;
-}
+QString from_path(std::string_view bytes) { return QString::fromStdU16String(path_to_unicode(bytes)); }
 
 QString plain_tooltip(const QString& text) {
   return text.isEmpty() ? QString() : "<span>" + text.toHtmlEscaped() + "</span>";

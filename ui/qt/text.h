@@ -12,8 +12,7 @@ QString from_bytes(std::string_view bytes);
 // Characters that the code page lacks, and line ends, are left out; `lost` counts them.
 std::string to_bytes(const QString& text, int* lost = nullptr);
 
-// A path, or a message that names one: in the encoding of the system's file names where it is valid in that, else in the
-// code page.
+// A path, or a message that names one.
 QString from_path(std::string_view bytes);
 
 // So that no markup in a file is taken for formatting.
