@@ -8,65 +8,31 @@ namespace app {
 
 inline constexpr int kRows = 8;  // component rows
 
-// In the order of the table.
-enum ControlId : int {
-  Label1,
-  lstReactions,
-  Label2,
-  lblNameDb,
-  Label3,
-  txtID,
-  Label9,
-  txtName,
-  lblLogk,
-  txtlogk,
-  lblLk2,
-  txtLk2,
-  lbldhr,
-  txtdhr,
-  lblKsel,
-  txtKsel,
-  Label6,
-  txtCharge,
-  Label7,
-  txtNocomp,
-  lblMB,
-  lblMA,
-  kFirstMBstoich,
-  kFirstStoich = kFirstMBstoich + kRows,
-  kFirstComp = kFirstStoich + kRows,
-  kFirstRowLabel = kFirstComp + kRows,
-  lblMBnote = kFirstRowLabel + kRows,
-  lblIsoterm,
-  cboIsoterm,
-  txtf50,
-  cmdAddnew,
-  cmdDelete,
-  Line1,
-  lblAddnew,
-  cmdCompdb,
-  lblSpname,
-  lblComp,
-  txtSpname,
-  txtStoicn,
-  cboComp,
-  cmdNextcomp,
-  cmdSuggest,
-  lblMAnote,
-  cmdSavedb,
-  cmdQuit,
-  cmdNewDb,
-  Label8,
-  mnuFileOpen,
-  mnuFileExit,
-  kControls
-};
+// Every control by its name, later ones above earlier ones; a ROW stands for kRows of them, txtComp(1) to txtComp(8). Ids
+// and names both come from this list, so that they cannot drift apart.
+#define KELMAR_CONTROLS(ONE, ROW)                                                                                          \
+  ONE(Label1)                                                                                                              \
+  ONE(lstReactions)                                                                                                        \
+  ONE(Label2) ONE(lblNameDb) ONE(Label3) ONE(txtID) ONE(Label9) ONE(txtName) ONE(lblLogk) ONE(txtlogk) ONE(lblLk2)         \
+      ONE(txtLk2) ONE(lbldhr) ONE(txtdhr) ONE(lblKsel) ONE(txtKsel) ONE(Label6) ONE(txtCharge) ONE(Label7) ONE(txtNocomp)  \
+          ONE(lblMB) ONE(lblMA) ROW(txtMBstoich) ROW(txtStoich) ROW(txtComp) ROW(lblStoich) ONE(lblMBnote) ONE(lblIsoterm) \
+              ONE(cboIsoterm) ONE(txtf50) ONE(cmdAddnew) ONE(cmdDelete) ONE(Line1) ONE(lblAddnew) ONE(cmdCompdb)           \
+                  ONE(lblSpname) ONE(lblComp) ONE(txtSpname) ONE(txtStoicn) ONE(cboComp) ONE(cmdNextcomp) ONE(cmdSuggest)  \
+                      ONE(lblMAnote) ONE(cmdSavedb) ONE(cmdQuit) ONE(cmdNewDb) ONE(Label8) ONE(mnuFileOpen)                \
+                          ONE(mnuFileExit)
 
-// The control arrays; i is 1 to kRows.
-constexpr int txtMBstoich(int i) { return kFirstMBstoich + i - 1; }
-constexpr int txtStoich(int i) { return kFirstStoich + i - 1; }
-constexpr int txtComp(int i) { return kFirstComp + i - 1; }
-constexpr int lblStoich(int i) { return kFirstRowLabel + i - 1; }
+#define KELMAR_ONE(name) name,
+#define KELMAR_ROW(name) name##1, name##8 = name##1 + kRows - 1,
+enum ControlId : int { KELMAR_CONTROLS(KELMAR_ONE, KELMAR_ROW) kControls };
+#undef KELMAR_ONE
+#undef KELMAR_ROW
+
+#define KELMAR_ONE(name)
+#define KELMAR_ROW(name) \
+  constexpr int name(int i) { return name##1 + i - 1; }  // i is 1 to kRows
+KELMAR_CONTROLS(KELMAR_ONE, KELMAR_ROW)
+#undef KELMAR_ONE
+#undef KELMAR_ROW
 
 const ui::WindowDef& window_def();
 

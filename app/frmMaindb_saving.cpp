@@ -40,8 +40,7 @@ void frmMaindb::cmdNewDb_Click() {
   // What the program refuses is told; whatever else fails ends the handler in silence.
   std::optional<std::string> warning;
   try {
-    db::refuse_misplaced(system_, state_.open);
-    warning = file::copy_over(system_, state_.open.path, *chosen, db::spare_components(state_.compdb));
+    warning = db::copy_to(system_, state_.open, *chosen, state_.compdb);
   } catch (const file::Refusal& refusal) {
     return refuse(refusal.what());
   } catch (const file::Error&) {

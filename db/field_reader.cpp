@@ -133,10 +133,7 @@ bool FieldReader::next(std::span<Field> fields) {
       }
     }
     next_ = begin;
-    if (!next_of_any_kind(field)) {
-      std::fill(&field, fields.data() + fields.size(), Field());
-      return false;
-    }
+    if (!next_of_any_kind(field)) return false;
     at = next_;
   }
   next_ = at;

@@ -31,9 +31,9 @@ class FieldReader {
   bool begin_record();
   // The fields read before are no longer needed, and their views end here.
   void forget();
-  // Reads the next fields; false when the file ends before the last of them, and those that it lacks are empty. The views
-  // hold until forget(). Throws FieldError for a quoted text that is not closed on its line or a field above the limit, and
-  // file::Error for a failed read.
+  // Reads the next fields; false when the file ends before the last of them. The views hold until forget(). Throws
+  // FieldError for a quoted text that is not closed on its line or a field above the limit, and file::Error for a failed
+  // read.
   bool next(std::span<Field> fields);
   bool next(Field& field) { return next(std::span(&field, 1)); }
 

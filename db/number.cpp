@@ -57,7 +57,7 @@ bool is_formatted_longer(std::string_view text) {
   const char* const end = text.data() + text.size();
   const char* const whole = text.data() + (text.starts_with('-') ? 1 : 0);
   const char* const point = behind_digits(whole, end);
-  if (point != whole && *whole == '0') return text == "0";
+  if (point != whole && *whole == '0') return false;
   if (point == end) return point != whole && end - whole <= kDigits;
   const char* const fraction = point + 1;
   if (*point != '.' || behind_digits(fraction, end) != end) return false;

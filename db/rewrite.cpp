@@ -6,21 +6,31 @@
 
 namespace db {
 
-void refuse_misplaced(file::System& system, const Database& database) {
-  if (!database.misplaced) return;
+namespace {
+
+file::Refusal misplaced(const Database& database) {
+  return file::Refusal(file::named(database.path) +
+                       " is another database than the one that was open, which could not be copied there. Open the one or " +
+                       "the other with the File menu.");
+}
+
+}  // namespace
+
+std::optional<std::string> copy_to(file::System& system, const Database& database, const std::string& path,
+                                   const std::string& compdb) {
   file::Status present;
-  file::require(system.status(database.path, file::Follow::Links, present), "look at", database.path);
-  if (present.type == file::Type::Missing) return;
-  throw file::Refusal(file::named(database.path) +
-                      " is another database than the one that was open, which could not be copied there. Open the one or " +
-                      "the other with the File menu.");
+  const bool there = !system.status(database.path, file::Follow::Links, present) && present.type != file::Type::Missing;
+  if (database.misplaced && there) throw misplaced(database);
+  if (file::same_place(system, path, kTemporaryFile))
+    throw file::Refusal(file::named(path) + " is the temporary file of every save. Choose another name.");
+  return file::copy_over(system, database.path, path, spare_components(compdb));
 }
 
 Rewrite::Rewrite(file::System& system, const Database& database, const std::string& compdb, const NewLeading& leading)
     : replacement_(system, kTemporaryFile, database.path, spare_components(compdb)),
       reader_(system, replacement_.path(), database.path),
       name_(file::named(database.path)) {
-  refuse_misplaced(system, database);
+  if (database.misplaced) throw misplaced(database);
   constexpr std::size_t kGrowth = 4096;  // room for one more species
   out_.reserve(std::min(replacement_.old_size(), file::kLargestDatabase) + kGrowth);
   LeadingFields fields = reader_.read_leading(leading_of(database.kind));
@@ -35,11 +45,11 @@ Rewrite::Rewrite(file::System& system, const Database& database, const std::stri
 
 bool Rewrite::keep_until(std::optional<std::string_view> name) {
   while (const Record* record = reader_.next()) {
-    if (++old_species_ == 1 && no_model_ && record->head[kId].type() == FieldType::Text)
-      reader_.refuse(
-          "an empty line or field stands in the place of the model, and a text in that of the ID number. Nothing was "
-          "changed. "
-          "Remove the empty line with a text editor");
+    if (++old_species_ == 1 && !record->head[kId].text.empty() && !record->head[kId].number())
+      reader_.refuse(no_model_ ? "an empty line or field stands in the place of the model, and a text in that of the ID "
+                                 "number. Nothing was changed. Remove the empty line with a text editor"
+                               : "a text stands in the place of the ID number, as where a database bears the name of "
+                                 "another kind. Nothing was changed. Give it the name of its kind and open it again");
     if (name && record->name() == *name) return true;
     append_record(out_, *record);
     count();

@@ -23,8 +23,9 @@ struct NewLeading {
   double critical_f = 0;
 };
 
-// Throws file::Refusal when the open database could not be copied to its path and another one lies there.
-void refuse_misplaced(file::System& system, const Database& database);
+// Copies the open database to a new path, with the result of file::copy_over. Throws file::Refusal or file::Error.
+[[nodiscard]] std::optional<std::string> copy_to(file::System& system, const Database& database, const std::string& path,
+                                                 const std::string& compdb);
 
 class Rewrite {
  public:

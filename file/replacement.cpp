@@ -10,6 +10,11 @@ Refusal closed_folder(const std::string& path) {
   return Refusal("the folder of " + named(path) + " does not let a file be replaced." + kElsewhere);
 }
 
+Refusal temporary_itself(const std::string& temporary) {
+  return Refusal("the open database is the temporary file " + named(temporary) +
+                 " itself. Copy it to another name and open that.");
+}
+
 }  // namespace
 
 Replacement::Replacement(System& system, const std::string& temporary, const std::string& target, const Spared& spared)
@@ -28,9 +33,7 @@ Replacement::Replacement(System& system, const std::string& temporary, const std
   if (before_.type == Type::Plain) exclude_others();
   // The target under the temporary name would be taken for a leftover and removed.
   require(system_.status(temporary, Follow::Nothing, present), "look at", temporary);
-  if (present.same_file(before_) || temporary == target)
-    throw Refusal("the open database is the temporary file " + named(temporary) +
-                  " itself. Copy it to another name and open that.");
+  if (present.same_file(before_) || temporary == target) throw temporary_itself(temporary);
   temporary_.emplace(system_, temporary, access(), spared_);
 }
 
@@ -94,10 +97,16 @@ std::optional<std::string> Replacement::commit(std::string_view content) {
 }
 
 std::optional<std::string> copy_over(System& system, const std::string& from, const std::string& to, const Spared& spared) {
-  Status source, target;
-  if (!system.status(from, Follow::Links, source) && !system.status(to, Follow::Links, target) && source.same_file(target))
-    return std::nullopt;
-  return Replacement(system, to + kBeside, to, spared).commit(read_whole(system, from, kLargestDatabase));
+  if (same_place(system, from, to)) return std::nullopt;
+  if (same_place(system, from, to + kBeside)) throw temporary_itself(to + kBeside);
+  Replacement replacement(system, to + kBeside, to, spared);
+  Status before, after;
+  require(system.status(from, Follow::Links, before), "look at", from);
+  const std::string content = read_whole(system, from, kLargestDatabase);
+  require(system.status(from, Follow::Links, after), "look at", from);
+  if (!after.same_content(before))
+    throw Refusal(named(from) + " was changed by another program while it was being copied. Try again.");
+  return replacement.commit(content);
 }
 
 }  // namespace file

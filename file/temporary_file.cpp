@@ -17,18 +17,19 @@ bool is_denied(std::error_code error) {
   return error == std::errc::permission_denied || error == std::errc::operation_not_permitted;
 }
 
-void refuse_spared(System& system, const std::string& target, const Spared& spared) {
+bool same_place(System& system, const std::string& one, const std::string& other) {
   Status ours, theirs;
-  require(system.status(target, Follow::Links, ours), "look at", target);
-  require(system.status(spared.path, Follow::Links, theirs), "look at", spared.path);
-  bool same = ours.same_file(theirs);
-  if (ours.type == Type::Missing && theirs.type == Type::Missing) {
-    std::string folder;
-    require(system.current_folder(folder), "find", target);
-    const auto place = [&](const std::string& path) { return (std::filesystem::path(folder) / path).lexically_normal(); };
-    same = place(target) == place(spared.path);
-  }
-  if (same)
+  require(system.status(one, Follow::Links, ours), "look at", one);
+  require(system.status(other, Follow::Links, theirs), "look at", other);
+  if (ours.type != Type::Missing || theirs.type != Type::Missing) return ours.same_file(theirs);
+  std::string folder;
+  require(system.current_folder(folder), "find", one);
+  const auto place = [&](const std::string& path) { return (std::filesystem::path(folder) / path).lexically_normal(); };
+  return place(one) == place(other);
+}
+
+void refuse_spared(System& system, const std::string& target, const Spared& spared) {
+  if (same_place(system, target, spared.path))
     throw Refusal(named(target) + " is " + spared.what +
                   ", which is never changed. Choose another file for one of the two.");
 }

@@ -18,6 +18,9 @@ struct Spared {
 // Throws Refusal when `target` is that file.
 void refuse_spared(System& system, const std::string& target, const Spared& spared);
 
+// Whether two paths lead to one file, or would: both are free and lie at the same place. Throws Error.
+bool same_place(System& system, const std::string& one, const std::string& other);
+
 bool is_denied(std::error_code error);
 
 // Tries for about a second, until an attempt is true.

@@ -84,13 +84,14 @@ std::string fields(const Arguments& arguments) {
   return all;
 }
 
-// What a rewrite makes of a database of that name, or its message.
+// What a rewrite makes of a database of that name, with a model of the window if one is given, or its message.
 std::string rewrite(const Arguments& arguments) {
   const auto& [name, content] = std::tie(arguments[0], arguments[1]);
   MemorySystem system;
   system.add(name, content);
   try {
-    db::Rewrite rewrite(system, db::database_at(name), "comp.mdb", {.model = "", .critical_f = .5});
+    const std::string model = arguments.size() > 2 ? arguments[2] : "";
+    db::Rewrite rewrite(system, db::database_at(name), "comp.mdb", {.model = model, .critical_f = .5});
     EXPECT_FALSE(rewrite.keep_until(std::nullopt));
     EXPECT_EQ(rewrite.commit(), std::nullopt);
   } catch (const file::Error& error) {
@@ -259,6 +260,8 @@ TEST(Cases, ComeOutAsTabled) {
 TEST(Fields, DoNotDependOnWhereABlockEnds) {
   for (const std::string tail : {"\r\n\"a,b\" x,  7  ,y", "\r\r\n,  \"q\"\r\n"}) {
     const std::string plain = fields({tail});
+    EXPECT_EQ(fields({std::string(57342, 'z') + "," + std::string(65536, 'x') + tail}), "[57342][65536]" + plain.substr(2))
+        << "a field of the greatest length, at the end of a block";
     for (std::size_t before = 120 * 1024 - 8; before < 120 * 1024 + 4; ++before) {
       std::string text;
       while (text.size() + 9 < before) text += "12345678,";

@@ -26,13 +26,13 @@ int allocations_left = -1;  // until one fails; -1: none does
 
 }  // namespace
 
-void* operator new(std::size_t size) {
+[[gnu::noinline]] void* operator new(std::size_t size) {
   if (allocations_left >= 0 && support::calls_in_progress == 0 && allocations_left-- == 0) throw std::bad_alloc();
   if (void* const memory = std::malloc(size > 0 ? size : 1)) return memory;
   throw std::bad_alloc();
 }
-void operator delete(void* memory) noexcept { std::free(memory); }
-void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
+[[gnu::noinline]] void operator delete(void* memory) noexcept { std::free(memory); }
+[[gnu::noinline]] void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
 
 namespace {
 

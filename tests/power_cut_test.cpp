@@ -149,6 +149,7 @@ Found replace(const std::string& target, const std::string& fresh, std::optional
   memory.add_folder("/other");
   memory.add_folder("/far", {.device = 2});
   memory.add(target, kOld);
+  memory.link("/far/link.mdb", target);
   memory.add("dbnamep.mdb", "a leftover");
   Recorder recorder(memory);
   recorder.watched.before = [&](const CallInfo& info) {
@@ -159,7 +160,7 @@ Found replace(const std::string& target, const std::string& fresh, std::optional
     const std::string now = content(disk, target);
     found.mixed += now != kOld && now != fresh;
   };
-  file::Replacement replacement(recorder.watched, "dbnamep.mdb", target, {"comp.mdb", ""});
+  file::Replacement replacement(recorder.watched, "dbnamep.mdb", "/far/link.mdb", {"comp.mdb", ""});
   EXPECT_EQ(replacement.commit(fresh), std::nullopt);
   recorder.examine([&](const Disk& disk) { found.old_after_success += content(disk, target) != fresh; });
   found.states = recorder.examined();

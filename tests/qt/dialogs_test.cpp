@@ -108,6 +108,13 @@ TEST_F(QtDialog, FileToOpenIsThere) {
                    }),
             file("a.MDB"));
   EXPECT_EQ(choose(request, [](QFileDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); }), std::nullopt);
+  const FileRequest names{.form = FileRequest::Form::Save, .filter = "A (*.MDB)|*.MDB", .folder = file("")};
+  EXPECT_EQ(choose(names,
+                   [](QFileDialog& dialog) {
+                     dialog.findChild<QLineEdit*>()->setText(QString::fromUtf8("\u00e4\u0416.mdb"));
+                     QTest::keyClick(&dialog, Qt::Key_Return);
+                   }),
+            file("\xc3\xa4\xd0\x96.mdb"));
 }
 
 TEST_F(QtDialog, FileToWriteGetsTheExtensionAndIsReplacedOnlyWhenTheUserSaysSo) {

@@ -73,6 +73,7 @@ TEST(Qt, RunsNoHandlerInsideTheMessageBoxOfAnother) {
   press(app::cmdDelete);
   EXPECT_EQ(boxes, 1);
   EXPECT_FALSE(qt.form.window().ended);
+  EXPECT_TRUE(qt.window.isVisible());
   EXPECT_NE(qt.Listed()[3], third);
   EXPECT_EQ(qt.Listed()[6], seventh);
   EXPECT_FALSE(qt.Shown(app::cboComp));
