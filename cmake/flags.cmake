@@ -1,7 +1,9 @@
 # Compiler and linker flags of all targets.
 
-if(CMAKE_BUILD_TYPE STREQUAL "Release")
-  set(CMAKE_INTERPROCEDURAL_OPTIMIZATION ON)
+if(CMAKE_BUILD_TYPE STREQUAL "Release" AND NOT DEFINED CMAKE_INTERPROCEDURAL_OPTIMIZATION)
+  include(CheckIPOSupported)
+  check_ipo_supported(RESULT can_generate_code_when_linking OUTPUT reason LANGUAGES CXX)
+  set(CMAKE_INTERPROCEDURAL_OPTIMIZATION ${can_generate_code_when_linking})
 endif()
 
 # Of a target that uses Qt: a linker that generates its code would copy Qt's data into the program, which Qt forbids.
