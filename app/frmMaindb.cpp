@@ -3,8 +3,9 @@
 #include <utility>
 
 #include "app/start_up.h"
-#include "db/listing.h"
 #include "db/number.h"
+#include "db/species_reader.h"
+#include "edit/models.h"
 
 namespace app {
 namespace {
@@ -13,20 +14,6 @@ constexpr std::string_view kDatabaseFilter =
     "Complexation database files (*.MDB)|*.MDB|Counterion selectivity files (*.CDB)|*.CDB|"
     "Isotherm database files (*.ISO)|*.ISO|NICA-Donnan database files (*.NIC)|*.NIC|BLM parameter files (*.BLI)|*.BLI";
 constexpr std::string_view kComponentFilter = "Kelmar database files (*.MDB)|*.MDB";
-
-constexpr const char* kModels[] = {"Linear Kd",           "Freundlich", "Extended Freundlich", "Langmuir", "Temkin",
-                                   "Langmuir-Freundlich", "NICA"};
-
-std::string_view logk_caption(std::string_view isomodel) {
-  if (isomodel == "Linear Kd") return "log Kd";
-  if (isomodel == "Freundlich" || isomodel == "Extended Freundlich") return "log KF";
-  if (isomodel == "Langmuir") return "log KL";
-  if (isomodel == "Langmuir-Freundlich") return "log KLF";
-  if (isomodel == "Temkin") return "log KT";
-  return "";
-}
-
-bool uses_mb(std::string_view isomodel) { return isomodel == "Freundlich" || isomodel == "Extended Freundlich"; }
 
 }  // namespace
 
@@ -96,7 +83,8 @@ void frmMaindb::Form_Load() {
     return;
   }
   open_database(take_hand_over(folder, drive));
-  window_[cboIsoterm].entries.assign(std::begin(kModels), std::end(kModels));
+  for (const edit::Model& model : edit::models())
+    if (model.name != db::kNicaDonnan) window_[cboIsoterm].entries.emplace_back(model.name);
   Listfill();
 }
 
@@ -119,7 +107,7 @@ void frmMaindb::open_database(std::string path) {
   state_.open.misplaced = false;
   state_.open.path = std::move(path);
   state_.open.isomodel.clear();
-  state_.isoselect.clear();
+  state_.open.isoselect.clear();
   hide({lblKsel, txtKsel, txtf50, lblIsoterm, cboIsoterm});
   show({lblNameDb});
   set(lblNameDb, state_.open.path);
@@ -159,10 +147,10 @@ void frmMaindb::Listfill() {
 // The controls of an isotherm database; a model picked by the user goes before the one in the file.
 void frmMaindb::show_model(const std::string& model_in_file) {
   state_.open.isomodel = model_in_file;
-  if (state_.isoselect.empty())
-    state_.isoselect = state_.open.isomodel;
+  if (state_.open.isoselect.empty())
+    state_.open.isoselect = state_.open.isomodel;
   else
-    state_.open.isomodel = state_.isoselect;
+    state_.open.isomodel = state_.open.isoselect;
   show({cboIsoterm, lblIsoterm});
   set(lblIsoterm, "Isotherm model");
   set(cboIsoterm, state_.open.isomodel);
@@ -170,8 +158,9 @@ void frmMaindb::show_model(const std::string& model_in_file) {
     set(lbldhr, "p");
   else
     hide({txtdhr, lbldhr, txtKsel, lblKsel});
-  if (const auto caption = logk_caption(state_.open.isomodel); !caption.empty()) set(lblLogk, std::string(caption));
-  state_.open.mbfields = uses_mb(state_.open.isomodel);
+  const edit::Model& model = edit::model(state_.open.isomodel);
+  if (!model.logk_caption.empty()) set(lblLogk, std::string(model.logk_caption));
+  state_.open.mbfields = model.mb;
   set_shown({lblMA, lblMB, lblMBnote}, state_.open.mbfields);
 }
 
@@ -190,7 +179,7 @@ void frmMaindb::cmdCompdb_Click() {
 }
 
 void frmMaindb::cboIsoterm_Click() {
-  state_.isoselect = text(cboIsoterm);
+  state_.open.isoselect = text(cboIsoterm);
   Listfill();
 }
 

@@ -4,9 +4,9 @@
 #include <utility>
 
 #include "app/frmMaindb.h"
-#include "db/text.h"
-#include "edit/values.h"
-#include "file/replacement.h"
+#include "db/field.h"
+#include "db/rewrite.h"
+#include "edit/saving.h"
 
 namespace app {
 namespace {
@@ -74,31 +74,14 @@ void frmMaindb::savedb() {
 
   state_.changedone = "N";
   const bool add = species && !species->empty() && *species == db::trimmed(text(txtSpname));
-  if (!add && state_.open.isomodel == db::kNicaDonnan) state_.isoselect = db::kNicaDonnan;
-  db::Rewrite rewrite(system_, state_.open, state_.compdb, new_leading(add ? state_.open.isomodel : state_.isoselect));
-  const auto put_species = [&] {
-    SpeciesChange(rewrite);
-    state_.changedone = "N";
-  };
-  if (add) put_species();
-  while (rewrite.keep_until(add ? std::nullopt : species)) put_species();
-  const auto warning = rewrite.commit();
+  if (!add && state_.open.isomodel == db::kNicaDonnan) state_.open.isoselect = db::kNicaDonnan;
+  const auto warning = edit::save(system_, state_.open, state_.compdb, {species, add, SpeciesChange(), text(txtf50)});
   if (add) Newspecdelete();
   Listfill();
   if (warning) refuse(*warning);
 }
 
-db::NewLeading frmMaindb::new_leading(const std::string& model) const {
-  return {.model = model, .critical_f = state_.open.blifile() ? edit::number_rule(text(txtf50)) : 0};
-}
-
-void frmMaindb::SpeciesChange(db::Rewrite& rewrite) {
-  const edit::Entry species = entry();
-  rewrite.put(edit::species_record(species, state_.open, edit::numbers_of(species.components(), system_, state_.compdb)));
-  state_.changedone = "Y";
-}
-
-edit::Entry frmMaindb::entry() const {
+edit::Entry frmMaindb::SpeciesChange() const {
   edit::Entry entry{.id = text(txtID),
                     .name = text(txtName),
                     .logk = text(txtlogk),
@@ -130,14 +113,9 @@ void frmMaindb::cmdDelete_Click() {
     return;
 
   std::optional<std::string> warning;
-  const auto failure = message_of(
-      [&] {
-        db::Rewrite rewrite(system_, state_.open, state_.compdb, new_leading(state_.open.isomodel));
-        while (rewrite.keep_until(species)) {
-        }
-        warning = rewrite.commit();
-      },
-      "The species was not deleted: ", " Put that right and try again.");
+  const auto failure =
+      message_of([&] { warning = edit::delete_species(system_, state_.open, state_.compdb, species, text(txtf50)); },
+                 "The species was not deleted: ", " Put that right and try again.");
   if (failure) return refuse(*failure);
   remove_species(entry);
   empty_rows();

@@ -5,8 +5,8 @@
 #include <utility>
 
 #include "app/frmMaindb.h"
+#include "db/field.h"
 #include "db/number.h"
-#include "db/text.h"
 #include "edit/choices.h"
 
 namespace app {
@@ -117,10 +117,9 @@ void frmMaindb::cmdSuggest_Click() {
 }
 
 void frmMaindb::suggest_id() {
-  edit::numgenerator2(system_, state_.compdb, text(txtComp(1)), text(txtComp(2)), state_.idcompno);
+  numgenerator2();
   state_.idcompno = edit::with_site(state_.idcompno, state_.open.isomodel, text(txtComp(1)));
-  const edit::FreeId candidates(state_.idcompno);
-  if (edit::range_of(candidates.first_candidate()) != edit::IdRange::None) {
+  if (edit::range_of(edit::first_candidate(state_.idcompno)) != edit::IdRange::None) {
     show({txtLk2, lblLk2});
     set(txtLk2, " 0");
     if (state_.open.isomodel == "NICA") {
@@ -129,7 +128,11 @@ void frmMaindb::suggest_id() {
       set(txtKsel, " 0");
     }
   }
-  set(txtID, db::numtext(edit::first_free_id(system_, state_.open, candidates)));
+  set(txtID, db::numtext(edit::free_id(system_, state_.open, state_.idcompno)));
+}
+
+void frmMaindb::numgenerator2() {
+  edit::look_up(system_, state_.compdb, text(txtComp(1)), text(txtComp(2)), state_.idcompno);
 }
 
 void frmMaindb::Newspecdelete() {

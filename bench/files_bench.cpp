@@ -83,7 +83,7 @@ BENCHMARK(click_last);
 
 void suggest_id(benchmark::State& state) {
   for (auto _ : state) {
-    const double id = edit::first_free_id(file::system(), kOpen, edit::FreeId({150, 2}));
+    const double id = edit::free_id(file::system(), kOpen, {150, 2});
     benchmark::DoNotOptimize(id);
     if (id != 21500 + kSpecies - 9) state.SkipWithError("not all candidates were in use");
   }
@@ -105,7 +105,7 @@ void change(db::Rewrite& rewrite) {
   entry.rows[0] = {"1", "Comp150+2", ""};
   entry.rows[1] = {"-1", "Comp330+2", ""};
   while (rewrite.keep_until(name))
-    rewrite.put(edit::species_record(entry, kOpen, edit::numbers_of(entry.components(), file::system(), kComponents)));
+    rewrite.put(edit::species_record(entry, kOpen, edit::numbers_of(file::system(), kComponents, entry.components())));
 }
 
 // Without the calls of the system that a save needs for its safety.

@@ -4,7 +4,7 @@
 #include <array>
 #include <string_view>
 
-#include "db/text.h"
+#include "db/field.h"
 
 namespace db {
 

@@ -117,4 +117,18 @@ void SpeciesReader::read_pairs(Pairs& pairs, double count, const char* what) {
   require(std::span(pairs.fields_).first(static_cast<std::size_t>(2 * pairs.count_)));
 }
 
+Listing list_species(file::System& system, const Database& open) {
+  Listing listing;
+  try {
+    SpeciesReader reader(system, open.path);
+    listing.opened = true;
+    listing.leading = reader.read_leading(leading_by_name(open));
+    listing.led = true;
+    listing.names.reserve(kMaxRecords);
+    while (const Record* record = reader.next()) listing.names.emplace_back(record->name());
+  } catch (const file::Error&) {
+  }
+  return listing;
+}
+
 }  // namespace db

@@ -3,6 +3,7 @@
 #include "db/components.h"
 #include "db/format.h"
 #include "edit/marks.h"
+#include "edit/models.h"
 
 namespace edit {
 namespace {
@@ -14,10 +15,8 @@ bool between(double n, double low, double high) { return n > low && n < high; }
 bool is_offered(double n, std::string_view isomodel, bool cdbfile) {
   // Surface sites and their potentials belong to complexation, the isotherm sites from 1300 on to their model.
   if (isomodel.empty() ? between(n, 1300, 1360) : between(n, 810, 860) || between(n, 1101, 1111)) return false;
-  if (isomodel == db::kNicaDonnan && between(n, 1300, 1340)) return false;
-  if (isomodel == "NICA" && (n > 1340 || between(n, 1300, 1320))) return false;
-  if (isomodel == "Langmuir-Freundlich" && (n > 1320 || between(n, 1300, 1310))) return false;
-  if (isomodel == "Langmuir" && n > 1310) return false;
+  const Model& its = model(isomodel);
+  if (n > its.last || between(n, its.hidden_above, its.hidden_below)) return false;
 
   if (n < 3 || between(n, 816, 859) || between(n, 1330, 1339) || (n >= 144 && n <= 149) || between(n, 916, 921) || n == 1104)
     return false;

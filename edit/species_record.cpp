@@ -4,7 +4,7 @@
 #include <cmath>
 #include <optional>
 
-#include "db/text.h"
+#include "db/field.h"
 #include "db/writer.h"
 #include "edit/marks.h"
 #include "edit/values.h"
@@ -32,7 +32,7 @@ std::span<const Row> Entry::components() const {
   return std::span(rows).first(static_cast<std::size_t>(std::max(n, 0.)));
 }
 
-std::vector<std::optional<double>> numbers_of(std::span<const Row> rows, file::System& system, const std::string& compdb) {
+std::vector<std::optional<double>> numbers_of(file::System& system, const std::string& compdb, std::span<const Row> rows) {
   std::vector<std::string> unknown;
   for (const Row& row : rows)
     if (const auto name = db::trimmed(row.comp); !db::site_number(name)) unknown.emplace_back(name);

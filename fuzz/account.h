@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "db/kind.h"
+#include "db/database.h"
 
 namespace fuzz {
 

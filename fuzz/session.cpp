@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "db/text.h"
+#include "db/field.h"
 
 namespace fuzz {
 

@@ -130,12 +130,12 @@ std::string free_id(const Arguments& arguments) {
   edit::IdBase base;
   components >> base.first >> base.second;
   try {
-    edit::FreeId candidates(base);
+    std::vector<double> numbers;
     for (std::string range; used >> range;)
       for (double i = 0, count = range.find('*') == range.npos ? 1 : std::stod(range.substr(range.find('*') + 1)); i < count;
            ++i)
-        candidates.use(std::stod(range) + i);
-    return db::format_number(candidates.result());
+        numbers.push_back(std::stod(range) + i);
+    return db::format_number(edit::free_id(base, numbers));
   } catch (const file::Refusal& refusal) {
     return refusal.what();
   }

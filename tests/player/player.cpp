@@ -66,7 +66,7 @@ std::string Player::state() {
   flag("\nblifile", state.open.blifile());
   flag("cdbfile", state.open.cdbfile());
   text("isomodel", state.open.isomodel);
-  text("\nisoselect", state.isoselect);
+  text("\nisoselect", state.open.isoselect);
   flag("\nmbfields", state.open.mbfields);
   text("changedone", state.changedone);
   flag("\nsuggestrun", state.suggestrun);

@@ -137,7 +137,7 @@ TEST(Qt, TypingAnEntryOfAComboBoxPicksNothing) {
   QTest::keyClick(qt.edit(app::cboIsoterm), Qt::Key_Return);
   qt.window.widget(app::txtID)->setFocus();
   qt.settle();
-  EXPECT_EQ(qt.form.state().isoselect, "Freundlich");
+  EXPECT_EQ(qt.form.state().open.isoselect, "Freundlich");
   EXPECT_EQ(qt.Text(app::cboIsoterm), "Temkin");
   EXPECT_EQ(qt.Text(app::txtlogk), "7");
   EXPECT_EQ(qt.form.window()[app::lstReactions].selected, 2);
@@ -145,10 +145,10 @@ TEST(Qt, TypingAnEntryOfAComboBoxPicksNothing) {
   QWheelEvent wheel({5, 5}, combo->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
   combo->setFocus();
   QApplication::sendEvent(combo, &wheel);
-  EXPECT_EQ(qt.form.state().isoselect, "Freundlich");
+  EXPECT_EQ(qt.form.state().open.isoselect, "Freundlich");
   QTest::keyClick(combo, Qt::Key_Down);
   qt.settle();
-  EXPECT_EQ(qt.form.state().isoselect, "Extended Freundlich");
+  EXPECT_EQ(qt.form.state().open.isoselect, "Extended Freundlich");
 }
 
 TEST(Qt, ListAlwaysShowsTheSelection) {

@@ -9,7 +9,7 @@
 #include <utility>
 
 #include "app/controls.h"
-#include "db/rewrite.h"
+#include "db/database.h"
 #include "edit/species_record.h"
 #include "edit/suggestion.h"
 #include "file/error.h"
@@ -25,9 +25,8 @@ class frmMaindb final : public ui::Form {
   // What the window holds beside its controls, for the life of the program.
   struct State {
     std::string compdb;         // path of the component database
-    db::Database open;          // the species database: dbname, blifile, cdbfile, isomodel, mbfields
-    std::string isoselect;      // the model picked, or taken from the file
-    std::string changedone;     // "Y" from writing a changed record until savedb acts on it, else "N"
+    db::Database open;          // the species database: dbname, blifile, cdbfile, isomodel, isoselect, mbfields
+    std::string changedone;     // "N" once a save has begun: its "Y" between two records is seen by nobody
     bool suggestrun = false;    // a suggestion is running: a selection shows nothing
     int compslot = 0;           // the row that the next component of a new species goes into
     edit::IdBase idcompno;      // the two numbers of the last suggestion
@@ -60,6 +59,7 @@ class frmMaindb final : public ui::Form {
   void cmdAddnew_Click();
   void cmdNextcomp_Click();
   void cmdSuggest_Click();
+  void numgenerator2();
   void Newspecdelete();
 
   // Changes of the file (frmMaindb_saving.cpp).
@@ -67,8 +67,6 @@ class frmMaindb final : public ui::Form {
   void cmdNewDb_Click();
   void cmdDelete_Click();
   void savedb();
-  void SpeciesChange(db::Rewrite& rewrite);
-  db::NewLeading new_leading(const std::string& model) const;
 
   // Controls.
   const std::string& text(int control) const { return window_[control].text; }
@@ -87,7 +85,7 @@ class frmMaindb final : public ui::Form {
   void suggest_id();
   bool refuse_ninth_component();
   void show_values(const edit::Shown& shown);
-  edit::Entry entry() const;
+  edit::Entry SpeciesChange() const;
 
   // Messages.
   // Does it; what stopped it, to be shown: a refusal as it stands, a failure between these words.

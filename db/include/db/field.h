@@ -8,6 +8,12 @@
 
 namespace db {
 
+// Without the blanks at both ends. A blank is the space character only.
+constexpr std::string_view trimmed(std::string_view text) {
+  const auto first = text.find_first_not_of(' ');
+  return first == std::string_view::npos ? std::string_view() : text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
 enum class FieldType { Empty, Number, Text };
 
 // `text` is the value without quotes and surrounding blanks. It is valid as long as its reader says.

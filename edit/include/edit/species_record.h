@@ -24,7 +24,7 @@ struct Entry {
 // The component number of each row: the fixed number of a surface site, for "#9999" the number after the sign, else that of
 // the component database. Nothing (an empty field) for any other name. The component database is read once, and only when a
 // row holds more than a surface site. Throws file::Refusal when it cannot be read.
-std::vector<std::optional<double>> numbers_of(std::span<const Row> rows, file::System& system, const std::string& compdb);
+std::vector<std::optional<double>> numbers_of(file::System& system, const std::string& compdb, std::span<const Row> rows);
 
 // The two to four lines of the record; `numbers` are those of its components. Texts that are no number count as 0. Throws
 // file::Refusal for what no reader would read back (more components than the window has rows, a quote in the name, an ID
