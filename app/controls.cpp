@@ -63,6 +63,7 @@ class Table {
   std::vector<ControlDef> table_;
 };
 
+// The texts are those that users and documents know, odd spellings included.
 void Table::fill() {
   label(Label1, "Present database species", kShown, {480, 240, 2415, 255});
   box(lstReactions, kShown, {480, 480, 2295, 3570}, Label1, {}, Kind::ListBox);

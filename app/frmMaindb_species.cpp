@@ -25,7 +25,7 @@ void frmMaindb::lstReactions_Click() {
       message_of([&] { shown = edit::show_species(system_, state_.open, state_.compdb, selected_species().value_or("")); },
                  "The species cannot be shown: ", " Mend the file with a text editor, or open another one.");
   if (shown) show_values(*shown);
-  if (shown && !shown->notice.empty()) refuse(shown->notice);
+  if (shown && shown->notice) refuse(*shown->notice);
   if (!failure) return;
   for (const int box : {txtID, txtName, txtlogk, txtLk2, txtdhr, txtKsel, txtCharge, txtNocomp}) set(box, "");
   hide({cmdDelete});
@@ -38,7 +38,7 @@ void frmMaindb::show_values(const edit::Shown& shown) {
     set(lblLk2, shown.lk2_caption);
     set(txtLk2, *shown.lk2);
   }
-  if (shown.m_ref) {
+  if (shown.ksel_is_m_ref) {
     show({txtKsel, lblKsel});
     set(lblKsel, "m-ref");
   }
@@ -76,7 +76,7 @@ void frmMaindb::cmdAddnew_Click() {
   for (const int box : {txtName, txtID, txtlogk, txtKsel, txtdhr, txtCharge}) set(box, "");
   set(txtNocomp, "0");
   state_.compslot = 1;
-  if (!choices.failure.empty()) refuse(choices.failure);
+  if (choices.failure) refuse(*choices.failure);
 }
 
 void frmMaindb::cmdNextcomp_Click() {
@@ -156,6 +156,7 @@ void frmMaindb::add_species(std::string name) {
   list.entries.push_back(std::move(name));
   const auto first = std::ranges::find(list.entries, list.entries.back());
   list.selected = first->empty() ? -1 : static_cast<int>(first - list.entries.begin());
+  lstReactions_Click();  // shows nothing while a suggestion runs
 }
 
 void frmMaindb::remove_species(int entry) {

@@ -7,7 +7,7 @@ if(CMAKE_BUILD_TYPE STREQUAL "Release" AND NOT DEFINED CMAKE_INTERPROCEDURAL_OPT
 endif()
 
 # Of a target that uses Qt: a linker that generates its code would copy Qt's data into the program, which Qt forbids.
-function(generate_code_before_linking target)
+function(generate_no_code_when_linking target)
   set_target_properties(${target} PROPERTIES INTERPROCEDURAL_OPTIMIZATION OFF)
 endfunction()
 

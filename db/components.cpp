@@ -38,7 +38,7 @@ void ComponentReader::fail(const std::string& reason) const {
 }
 
 ComponentNames component_names(file::System& system, const std::string& path, std::span<const double> numbers) {
-  ComponentNames result{std::vector<std::optional<std::string>>(numbers.size()), ""};
+  ComponentNames result{std::vector<std::optional<std::string>>(numbers.size()), std::nullopt};
   std::size_t missing = numbers.size();
   try {
     ComponentReader reader(system, path, kLookupRecords);

@@ -24,7 +24,7 @@ constexpr const char* kTooLong = "a field is longer than 64 KiB";
 
 // The first character from `at` on that is none of a plain field. The comma and all that ends a field or needs a second
 // look (blanks, quotes) come no later than it in the code page; of the characters of numbers only '+' does too.
-const char* behind_plain(const char* at) {
+const char* after_plain(const char* at) {
   while (static_cast<unsigned char>(*at) > ',') ++at;
   return at;
 }
@@ -74,7 +74,7 @@ bool FieldReader::only_blanks_left() const {
   }
 }
 
-// Reads on behind the last byte. When the block is full, a new one begins with the bytes from next_ on, and `at` moves with
+// Reads on after the last byte. When the block is full, a new one begins with the bytes from next_ on, and `at` moves with
 // them; the old one lives on for the fields of this record that point into it. False at the end of the file.
 bool FieldReader::refill(const char*& at) {
   if (file_ended_) return false;
@@ -106,12 +106,12 @@ bool FieldReader::at_end() {
 }
 
 // Nearly every field stands without blanks and ends inside the block, with a comma or CR LF: it is found here, any other in
-// next_of_any_kind(). No search runs beyond the line end behind the block.
+// next_of_any_kind(). No search runs beyond the line end after the block.
 bool FieldReader::next(std::span<Field> fields) {
   const char* at = next_;
   for (Field& field : fields) {
     const char* const begin = at;
-    const char* end = behind_plain(at);
+    const char* end = after_plain(at);
     if (end - begin <= kLongestPlain) {
       if (*end == ',') {
         field = {{begin, static_cast<std::size_t>(end - begin)}, false};
@@ -142,7 +142,7 @@ bool FieldReader::next(std::span<Field> fields) {
 
 bool FieldReader::next_of_any_kind(Field& field) {
   if (at_end()) return false;
-  // Every search stops at the line end behind the last byte read; there it goes on once more has been read.
+  // Every search stops at the line end after the last byte read; there it goes on once more has been read.
   const char* at = next_;
   do
     while (is_in(kBlank, *at)) ++at;

@@ -11,7 +11,7 @@ constexpr int kDigits = 15;  // what a double keeps of any decimal number
 
 bool is_digit(char c) { return c >= '0' && c <= '9'; }
 
-const char* behind_digits(const char* at, const char* end) {
+const char* after_digits(const char* at, const char* end) {
   while (at != end && is_digit(*at)) ++at;
   return at;
 }
@@ -56,11 +56,11 @@ std::string format_number(double value) {
 bool is_formatted_longer(std::string_view text) {
   const char* const end = text.data() + text.size();
   const char* const whole = text.data() + (text.starts_with('-') ? 1 : 0);
-  const char* const point = behind_digits(whole, end);
+  const char* const point = after_digits(whole, end);
   if (point != whole && *whole == '0') return false;
   if (point == end) return point != whole && end - whole <= kDigits;
   const char* const fraction = point + 1;
-  if (*point != '.' || behind_digits(fraction, end) != end) return false;
+  if (*point != '.' || after_digits(fraction, end) != end) return false;
   if (fraction == end || end[-1] == '0' || end - whole - 1 > kDigits) return false;
   return point != whole || !std::string_view(fraction, static_cast<std::size_t>(end - fraction)).starts_with("0000");
 }

@@ -33,9 +33,9 @@ Choices component_choices(file::System& system, const std::string& compdb, std::
         choices.names.push_back(shown_name(db::site_name(*number).value_or(component.name.text), *number));
     }
   } catch (const file::Error& error) {
-    choices = {{},
-               std::string("The components cannot be listed: ") + error.what() +
-                   " Choose another component database, or mend this one."};
+    choices.names.clear();
+    choices.failure = std::string("The components cannot be listed: ") + error.what() +
+                      " Choose another component database, or mend this one.";
   }
   choices.names.emplace_back("H2O");
   return choices;

@@ -42,7 +42,7 @@ class Display {
     if (range == IdRange::Lk2 && name() != "/FA-" && name() != "/HA-") {
       shown_.lk2_caption = "Lk2";
     } else if (range == IdRange::Nica) {
-      shown_.m_ref = database_.isomodel == "NICA";
+      shown_.ksel_is_m_ref = database_.isomodel == "NICA";
       shown_.lk2_caption = id < 13299999 ? "m" : id < 13399999 ? "b" : "n";
     } else if (database_.blifile()) {
       shown_.ksel = number(db::kLk2, "toxicity flag") == 0 ? " No" : " Yes";
@@ -72,10 +72,9 @@ class Display {
     for (int i = 0; i < rows; ++i)
       if (!is_empty(pairs.compno(i))) compno.push_back(number(pairs.compno(i), "component number"));
     const auto found = compno.empty() ? db::ComponentNames() : db::component_names(system, compdb, compno);
-    if (!found.failure.empty())
-      shown_.notice = "The components are shown by number: " + found.failure +
-                      " Choose another component database, or mend this one." +
-                      (shown_.notice.empty() ? "" : " " + shown_.notice);
+    if (found.failure)
+      shown_.notice = "The components are shown by number: " + *found.failure +
+                      " Choose another component database, or mend this one." + (shown_.notice ? " " + *shown_.notice : "");
     for (std::size_t i = 0, found_at = 0; i < static_cast<std::size_t>(rows); ++i) {
       Row row;
       row.stoich = numtext(number(pairs.stoich(static_cast<int>(i)), "stoichiometry"));

@@ -9,7 +9,7 @@
 namespace fuzz {
 
 struct Account {
-  bool readable = false;             // the whole list, and nothing would be lost behind it
+  bool readable = false;             // the whole list, and nothing after it would be lost
   bool marker = false;               // the list is ended by a marker, not by the file
   std::vector<std::string> leading;  // texts
   // Its name as it stands, and its fields with their types: "n1.5" a number, "ttext" a text, "" an empty one.

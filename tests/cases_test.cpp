@@ -152,7 +152,7 @@ std::string lookup(const Arguments& arguments) {
   system.add("c", arguments[1]);
   const std::vector<double> numbers{db::parse_number(arguments[0]).value_or(0)};
   const auto by_number = db::component_names(system, "c", numbers);
-  std::string result = by_number.names[0].value_or("none") + by_number.failure;
+  std::string result = by_number.names[0].value_or("none") + by_number.failure.value_or("");
   for (const auto match : {db::NameMatch::Trimmed, db::NameMatch::AsRead}) {
     try {
       const auto found = db::component_numbers(system, "c", {&arguments[2], 1}, match);
@@ -162,6 +162,28 @@ std::string lookup(const Arguments& arguments) {
     }
   }
   return result;
+}
+
+// What is shown of a species ("x.iso | CONTENT | NAME"), by all its boxes, or the message.
+std::string display(const Arguments& arguments) {
+  MemorySystem system;
+  system.add(arguments[0], arguments[1]);
+  system.add("comp.mdb", support::kComponents);
+  db::Database open = db::database_at(arguments[0]);
+  try {
+    open.mbfields = open.kind == db::Kind::Isotherm;
+    const auto shown = edit::show_species(system, open, "comp.mdb", arguments[2]);
+    if (!shown) return "none";
+    std::string all = "[" + shown->id + "][" + shown->name + "][" + shown->logk + "][" + shown->dhr + "][" + shown->charge +
+                      "][" + shown->nocomp + "]";
+    if (shown->ksel) all += " ksel [" + *shown->ksel + "]";
+    if (shown->lk2) all += " " + shown->lk2_caption + " [" + *shown->lk2 + "]";
+    if (shown->ksel_is_m_ref) all += " m-ref";
+    for (const edit::Row& row : shown->rows) all += " [" + row.stoich + "][" + row.comp + "][" + row.mbstoich + "]";
+    return all + (shown->notice ? " " + *shown->notice : "");
+  } catch (const file::Error& error) {
+    return error.what();
+  }
 }
 
 // Where letters lead ("F@100": at that time) in a list, from an entry.
@@ -209,7 +231,17 @@ std::string control(const Arguments& arguments) {
 
 const std::map<std::string, std::function<std::string(const Arguments&)>> kOperations{
     {"fields", fields},
+    {"choices",
+     [](const Arguments& a) {
+       MemorySystem system;
+       system.add("c", a[0]);
+       const auto choices = edit::component_choices(system, "c", "", false);
+       std::string all;
+       for (const std::string& name : choices.names) all += "[" + name + "]";
+       return all + (choices.failure ? " " + *choices.failure : "");
+     }},
     {"rewrite", rewrite},
+    {"display", display},
     {"number", [](const Arguments& a) { return number_or(db::parse_number(a[0]), "none"); }},
     {"formatted", [](const Arguments& a) { return std::string(db::is_formatted(a[0]) ? "yes" : "no"); }},
     {"shown", [](const Arguments& a) { return db::numtext(std::stod(a[0])); }},

@@ -30,7 +30,7 @@ using ui::qt::QtDialogs;
 class QtDialog : public testing::Test {
  protected:
   QtDialog() {
-    dialogs.stand_before(&parent, [this] { ++pushed; });
+    dialogs.attach_to(&parent, [this] { ++pushed; });
   }
   // What is done to the dialog that opens next.
   template <typename Dialog>

@@ -11,6 +11,7 @@ put f.iso
 | .5,231,,330,,231
 | 502,"ManyX",0,1.5,0,0,2,0,0,0,0,10
 | 1,231,1,330,1,150,1,812,1,,1,231,1,231,1,231,1,231,1,231
+| 503,"BadX",0,1.5,0,0,x,0,0,0,0,0
 | trailer
 put mydonnica.cdb
 | 501,"CuX",0,1.5,0,0,2,0,0,7,0,0
@@ -40,12 +41,13 @@ lblMB shown [M.B.*]
 lblMBnote shown [* Leave M.B. field blank if the M.B. stoichiometry is equal to the M.A. stocihiometry]
 lblNameDb shown [f.iso]
 lbldhr hidden [dHr (kJ/mol)]
-lstReactions shown [/FA-] 5
+lstReactions shown [/FA-] 6
   [/FA-]
   [/HA-]
   [Lk2X]
   [MbX]
   [ManyX]
+  [BadX]
 mbfields true
 txtCharge shown [ 2]
 txtID shown [ 11500000]
@@ -55,22 +57,24 @@ txtdhr hidden [  0]
 txtlogk shown [  1.5]
 > select 1
 > state
-lstReactions shown [/HA-] 5
+lstReactions shown [/HA-] 6
   [/FA-]
   [/HA-]
   [Lk2X]
   [MbX]
   [ManyX]
+  [BadX]
 txtName shown [/HA-]
 > select 2
 > state
 lblLk2 shown [Lk2]
-lstReactions shown [Lk2X] 5
+lstReactions shown [Lk2X] 6
   [/FA-]
   [/HA-]
   [Lk2X]
   [MbX]
   [ManyX]
+  [BadX]
 txtLk2 shown [  7]
 txtName shown [Lk2X]
 > select 3
@@ -78,12 +82,13 @@ txtName shown [Lk2X]
 lblLk2 hidden [Lk2]
 lblStoich(1) shown [Stoichiometry of 1st component]
 lblStoich(2) shown [Stoichiometry of 2nd component]
-lstReactions shown [MbX] 5
+lstReactions shown [MbX] 6
   [/FA-]
   [/HA-]
   [Lk2X]
   [MbX]
   [ManyX]
+  [BadX]
 txtComp(1) shown [Cu+2]
 txtComp(2) shown [H+]
 txtID shown [ 501]
@@ -111,12 +116,13 @@ lblStoich(5) shown [Stoichiometry of 5th component]
 lblStoich(6) shown [Stoichiometry of 6th component]
 lblStoich(7) shown [Stoichiometry of 7th component]
 lblStoich(8) shown [Stoichiometry of 8th component]
-lstReactions shown [ManyX] 5
+lstReactions shown [ManyX] 6
   [/FA-]
   [/HA-]
   [Lk2X]
   [MbX]
   [ManyX]
+  [BadX]
 txtComp(1) shown [#231]
 txtComp(2) shown [#330]
 txtComp(3) shown [#150]
@@ -141,6 +147,56 @@ txtStoich(5) shown [ 1]
 txtStoich(6) shown [ 1]
 txtStoich(7) shown [ 1]
 txtStoich(8) shown [ 1]
+> select 5
+box [Kelmar error] critical OK [The species cannot be shown: f.iso, record 6 (BadX): the charge is "x", not a number. Mend the file with a text editor, or open another one.]
+> state
+cmdDelete hidden [Delete this species]
+lblStoich(1) hidden [Stoichiometry of 1st component]
+lblStoich(2) hidden [Stoichiometry of 2nd component]
+lblStoich(3) hidden [Stoichiometry of 3rd component]
+lblStoich(4) hidden [Stoichiometry of 4th component]
+lblStoich(5) hidden [Stoichiometry of 5th component]
+lblStoich(6) hidden [Stoichiometry of 6th component]
+lblStoich(7) hidden [Stoichiometry of 7th component]
+lblStoich(8) hidden [Stoichiometry of 8th component]
+lstReactions shown [BadX] 6
+  [/FA-]
+  [/HA-]
+  [Lk2X]
+  [MbX]
+  [ManyX]
+  [BadX]
+txtCharge shown []
+txtComp(1) hidden [#231]
+txtComp(2) hidden [#330]
+txtComp(3) hidden [#150]
+txtComp(4) hidden [#812]
+txtComp(5) hidden [#]
+txtComp(6) hidden [#231]
+txtComp(7) hidden [#231]
+txtComp(8) hidden [#231]
+txtID shown []
+txtLk2 hidden []
+txtMBstoich(1) hidden []
+txtMBstoich(2) hidden []
+txtMBstoich(3) hidden []
+txtMBstoich(4) hidden []
+txtMBstoich(5) hidden []
+txtMBstoich(6) hidden []
+txtMBstoich(7) hidden []
+txtMBstoich(8) hidden []
+txtName shown []
+txtNocomp shown []
+txtStoich(1) hidden [ 1]
+txtStoich(2) hidden [ 1]
+txtStoich(3) hidden [ 1]
+txtStoich(4) hidden [ 1]
+txtStoich(5) hidden [ 1]
+txtStoich(6) hidden [ 1]
+txtStoich(7) hidden [ 1]
+txtStoich(8) hidden [ 1]
+txtdhr hidden []
+txtlogk shown []
 > choose mydonnica.cdb
 > click mnuFileOpen
 dialog open [Complexation database files (*.MDB)|*.MDB|Counterion selectivity files (*.CDB)|*.CDB|Isotherm database files (*.ISO)|*.ISO|NICA-Donnan database files (*.NIC)|*.NIC|BLM parameter files (*.BLI)|*.BLI]
@@ -155,6 +211,7 @@ cboIsoterm hidden [Freundlich] 7
   [Langmuir-Freundlich]
   [NICA]
 cdbfile true
+cmdDelete shown [Delete this species]
 dbname [mydonnica.cdb]
 isomodel []
 isoselect []
@@ -164,47 +221,17 @@ lblMA hidden [M.A.]
 lblMB hidden [M.B.*]
 lblMBnote hidden [* Leave M.B. field blank if the M.B. stoichiometry is equal to the M.A. stocihiometry]
 lblNameDb shown [mydonnica.cdb]
-lblStoich(1) hidden [Stoichiometry of 1st component]
-lblStoich(2) hidden [Stoichiometry of 2nd component]
-lblStoich(3) hidden [Stoichiometry of 3rd component]
-lblStoich(4) hidden [Stoichiometry of 4th component]
-lblStoich(5) hidden [Stoichiometry of 5th component]
-lblStoich(6) hidden [Stoichiometry of 6th component]
-lblStoich(7) hidden [Stoichiometry of 7th component]
-lblStoich(8) hidden [Stoichiometry of 8th component]
 lbldhr shown [dHr (kJ/mol)]
 lstReactions shown [CuX] 1
   [CuX]
 mbfields false
-txtComp(1) hidden [#231]
-txtComp(2) hidden [#330]
-txtComp(3) hidden [#150]
-txtComp(4) hidden [#812]
-txtComp(5) hidden [#]
-txtComp(6) hidden [#231]
-txtComp(7) hidden [#231]
-txtComp(8) hidden [#231]
+txtCharge shown [ 2]
 txtID shown [ 501]
 txtKsel hidden [  0]
-txtMBstoich(1) hidden []
-txtMBstoich(2) hidden []
-txtMBstoich(3) hidden []
-txtMBstoich(4) hidden []
-txtMBstoich(5) hidden []
-txtMBstoich(6) hidden []
-txtMBstoich(7) hidden []
-txtMBstoich(8) hidden []
 txtName shown [CuX]
 txtNocomp shown [ 0]
-txtStoich(1) hidden [ 1]
-txtStoich(2) hidden [ 1]
-txtStoich(3) hidden [ 1]
-txtStoich(4) hidden [ 1]
-txtStoich(5) hidden [ 1]
-txtStoich(6) hidden [ 1]
-txtStoich(7) hidden [ 1]
-txtStoich(8) hidden [ 1]
 txtdhr shown [  0]
+txtlogk shown [  1.5]
 > choose comp.mdb
 > click cmdCompdb
 dialog save [Kelmar database files (*.MDB)|*.MDB]
@@ -311,7 +338,9 @@ txtdhr shown []
 txtlogk shown []
 file f.iso
 + 501,"MbX",0,1.5,0,0,2,0,0,0,0,2
++ 503,"BadX",0,1.5,0,0,"x",0,0,0,0,0
 - 501,"MbX",0,1.5,0,0,2,0,0,0,0,102
 - 3
 - .5,231,,330,,231
+- 503,"BadX",0,1.5,0,0,x,0,0,0,0,0
 gone sorptemp.dat

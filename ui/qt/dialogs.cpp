@@ -24,7 +24,7 @@ QStringList name_filters(std::string_view filter) {
 
 }  // namespace
 
-void QtDialogs::stand_before(QWidget* parent, std::function<void()> push) {
+void QtDialogs::attach_to(QWidget* parent, std::function<void()> push) {
   parent_ = parent;
   push_ = std::move(push);
 }

@@ -42,7 +42,7 @@ int run(char* program, const MakeForm& make_form) {
   qt::MainWindow window(*form);
   form->load();
   if (form->window().ended) return form->window().status;
-  dialogs.stand_before(&window, [&window] { window.push(); });
+  dialogs.attach_to(&window, [&window] { window.push(); });
   window.push(true);
   window.show();
   return QApplication::exec();

@@ -1,5 +1,5 @@
 // The one window of the program: all its state and the handlers of its controls. A handler moves values between the
-// controls and the logic in edit/ and db/; it decides nothing about files or numbers.
+// controls and the logic in edit/ and db/.
 // The names are those under which the program has always been documented: control, underscore, event.
 #pragma once
 
@@ -22,10 +22,12 @@ class frmMaindb final : public ui::Form {
  public:
   frmMaindb(ui::Dialogs& dialogs, file::System& system);
 
-  // What the window holds beside its controls, for the life of the program.
+  // What the window holds beside its controls, for the life of the program. Documented names that have no variable of their
+  // own: dbname, isomodel, isoselect, mbfields are in `open`, which tells blifile and cdbfile by its kind; compno, stoich,
+  // mbstoich, mbcompno and compname live no longer than one event; numgenerator3 is edit::numbers_of, all rows in one pass.
   struct State {
     std::string compdb;         // path of the component database
-    db::Database open;          // the species database: dbname, blifile, cdbfile, isomodel, isoselect, mbfields
+    db::Database open;          // the species database
     std::string changedone;     // "N" once a save has begun: its "Y" between two records is seen by nobody
     bool suggestrun = false;    // a suggestion is running: a selection shows nothing
     int compslot = 0;           // the row that the next component of a new species goes into

@@ -46,10 +46,10 @@ class ComponentReader {
   bool cut_short_ = false;
 };
 
-// Names of components, and what kept some of them from being found ("" when the file was read as it should be).
+// Names of components, and what kept some of them from being found (nothing when the file was read as it should be).
 struct ComponentNames {
   std::vector<std::optional<std::string>> names;  // in the order asked for
-  std::string failure;
+  std::optional<std::string> failure;
 };
 
 // The names of the components with these numbers: of each the first record that bears it, among the first

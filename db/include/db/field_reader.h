@@ -40,7 +40,7 @@ class FieldReader {
   const std::string& name() const { return input_.name(); }
 
  private:
-  // Room for what is left of the last block, for what is read, and for a line end behind it that stops every search.
+  // Room for what is left of the last block, for what is read, and for a line end after it that stops every search.
   using Block = std::array<char, 120 * 1024>;
   static constexpr std::size_t kLeastRead = 4 * 1024;  // with less room than this a new block begins
   static_assert(sizeof(Block) > kLongestField + kLeastRead);
@@ -54,7 +54,7 @@ class FieldReader {
   std::vector<std::unique_ptr<Block>> blocks_;  // those that fields of this record may point into; the last is current
   std::unique_ptr<Block> spare_;
   const char* next_;          // the first byte that belongs to no field yet
-  const char* end_;           // behind the last byte read
+  const char* end_;           // after the last byte read
   std::uint64_t offset_ = 0;  // of end_, in the file
   bool file_ended_ = false;
 };

@@ -72,7 +72,7 @@ class SpeciesReader {
   // more than kMaxPairs pairs, or text in place of a number of pairs is an error.
   const Record* next();
   End end() const { return end_; }
-  // At the end of the list: whether an empty ID number has ended it and more stands behind that than an end marker and its
+  // At the end of the list: whether an empty ID number has ended it and more stands after that than an end marker and its
   // trailer. Reads on to the end of the file.
   bool hides_more();
 

@@ -24,10 +24,10 @@ struct Shown {
   std::string id, name, logk, dhr, charge, nocomp;
   std::optional<std::string> ksel;
   std::optional<std::string> lk2;
-  std::string lk2_caption;  // "Lk2", "m", "b" or "n" when lk2 is shown
-  bool m_ref = false;       // K-sel is shown, as "m-ref"
-  std::vector<Row> rows;    // at most db::kShownPairs
-  std::string notice;       // what the user has to be told beside, or nothing
+  std::string lk2_caption;            // "Lk2", "m", "b" or "n" when lk2 is shown
+  bool ksel_is_m_ref = false;         // K-sel is shown, as "m-ref"
+  std::vector<Row> rows;              // at most db::kShownPairs
+  std::optional<std::string> notice;  // what the user has to be told beside
 };
 
 // Finds the species `name` in the open database and looks its components up in `compdb`; nothing when there is none of that

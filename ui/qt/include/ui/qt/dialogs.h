@@ -14,8 +14,8 @@ namespace ui::qt {
 
 class QtDialogs final : public Dialogs {
  public:
-  // What stands behind a dialog: its parent, and a call that brings it up to date first.
-  void stand_before(QWidget* parent, std::function<void()> push);
+  // The window over which dialogs open, and a call that brings it up to date first.
+  void attach_to(QWidget* parent, std::function<void()> push);
 
   Answer message(std::string_view prompt, std::string_view title, Icon icon, Buttons buttons) override;
   std::optional<std::string> choose_file(const FileRequest& request) override;
