@@ -38,6 +38,7 @@ class Display {
 
   void show_by_kind() {
     const double id = number(db::kId, "ID number");
+    shown_.id = numtext(id);
     const IdRange range = range_of(id);
     if (range == IdRange::Lk2 && name() != "/FA-" && name() != "/HA-") {
       shown_.lk2_caption = "Lk2";
@@ -55,9 +56,8 @@ class Display {
     shown_.dhr = " " + numtext(number(db::kDhr, "dHr"));
     if (database_.isomodel == "NICA" || database_.cdbfile()) shown_.ksel = " " + numtext(number(db::kKsel, "K-sel"));
     shown_.name = name();
-    shown_.id = numtext(number(db::kId, "ID number"));
     shown_.charge = numtext(number(db::kCharge, "charge"));
-    const double components = number(db::kComponents, "number of components");
+    const double components = record_.head[db::kComponents].number().value_or(0);  // a number, or it had not been read
     shown_.nocomp = numtext(components > db::kMbBlock ? components - db::kMbBlock : components);
   }
 
