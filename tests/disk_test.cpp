@@ -21,6 +21,7 @@
 #include <optional>
 #include <sstream>
 #include <string>
+#include <string_view>
 #include <system_error>
 #include <utility>
 #include <vector>
@@ -118,9 +119,7 @@ class Script {
     const std::size_t arrow = line.find(" =>");
     const auto [verb, rest] = split(line.substr(0, arrow));
     const auto [first, second] = split(rest);
-    const auto operation = operations_.find(verb);
-    ASSERT_NE(operation, operations_.end()) << verb;
-    std::string result = operation->second(first, second);
+    std::string result = perform(verb, first, second);
     for (std::size_t at; (at = result.find(folder_)) != result.npos;) result.replace(at, folder_.size(), "FOLDER");
     EXPECT_EQ(result, arrow == line.npos ? "" : line.substr(std::min(arrow + 4, line.size())));
   }
@@ -156,7 +155,8 @@ class Script {
   }
   std::string shown(Text name, Follow follow) {
     constexpr const char* kTypes[] = {"missing", "plain", "folder", "link", "other"};
-    const Status status = look(name, follow);
+    Status status;
+    if (const auto error = system_.status(name, follow, status)) return said(error);
     if (status.type != Type::Plain) return kTypes[static_cast<int>(status.type)];
     return "plain, " + std::to_string(status.size) + " bytes, " + std::to_string(status.links) + " names" +
            (status.writable ? "" : ", read-only") + (status.replaceable ? "" : ", fixed");
@@ -184,21 +184,15 @@ class Script {
     return all + std::to_string(memory_->open_handles()) + " open";
   }
   static Call call_of(Text name) {
-    static const std::map<std::string, Call> kCalls{{"open_read", Call::OpenRead},
-                                                    {"create_new", Call::CreateNew},
-                                                    {"exclude_others", Call::ExcludeOthers},
-                                                    {"read", Call::Read},
-                                                    {"write", Call::Write},
-                                                    {"flush", Call::Flush},
-                                                    {"close", Call::Close},
-                                                    {"status", Call::StatusOfPath},
-                                                    {"status_of_handle", Call::StatusOfHandle},
-                                                    {"take_over", Call::TakeOver},
-                                                    {"rename", Call::Rename},
-                                                    {"without_links", Call::WithoutLinks},
-                                                    {"flush_folder_of", Call::FlushFolder},
-                                                    {"remove", Call::Remove}};
-    return kCalls.at(name);
+    constexpr std::string_view kCalls[] = {
+        "open_read",        "create_new", "exclude_others", "read",   "write",  "flush",          "close", "status",
+        "status_of_handle", "take_over",  "without_links",  "rename", "remove", "flush_folder_of"};  // in the order of Call
+    return static_cast<Call>(std::ranges::find(kCalls, name) - kCalls);
+  }
+  static std::error_code error_of(Text name) {
+    const std::map<std::string, int> errors{{"EIO", EIO},     {"EACCES", EACCES}, {"EPERM", EPERM}, {"EINTR", EINTR},
+                                            {"EBUSY", EBUSY}, {"ENOENT", ENOENT}, {"nothing", 0}};
+    return {errors.at(name), std::generic_category()};
   }
   // The call fails at its nth occurrence, and is not made.
   std::string fail(Call call, int nth, std::error_code error) {
@@ -208,12 +202,107 @@ class Script {
     };
     return "";
   }
-  template <typename OnDisk, typename InMemory>
-  std::string change(OnDisk on_disk, InMemory in_memory) {
-    if (memory_ != nullptr)
-      in_memory(*memory_);
+  std::string made(int result) {
+    EXPECT_EQ(result, 0);
+    return "";
+  }
+  void set_mode(Text name, mode_t mode) {
+    const bool writable = (mode & 0200) != 0;
+    if (memory_ == nullptr)
+      made(::chmod(name.c_str(), mode));
+    else if (name == ".")
+      memory_->folder(folder_).writable = writable;
     else
-      EXPECT_EQ(on_disk(), 0);
+      memory_->at(name).mode = mode, memory_->at(name).writable = writable, memory_->grow(name, "");
+  }
+
+  // Files made without the program.
+  std::string prepare(Text verb, Text a, Text b) {
+    support::MemorySystem* const m = memory_;
+    if (verb == "put") return create(a, b, file::Access::Private);
+    if (verb == "share") return create(a, b, file::Access::Shared);
+    if (verb == "grow") return grow(a, b);
+    if (verb == "link") return m != nullptr ? (m->link(a, b), "") : made(::symlink(b.c_str(), a.c_str()));
+    if (verb == "hardlink") return m != nullptr ? (m->hard_link(a, b), "") : made(::link(b.c_str(), a.c_str()));
+    if (verb == "chmod") return set_mode(a, static_cast<mode_t>(std::stoi(b, nullptr, 8))), "";
+    if (verb == "far") return m->add_folder(a, {.device = 2, .writable = b != "closed"}), "";
+    if (verb == "own") return m->at(a).owner = b, "";
+    if (verb == "without-locks") return m->folder(folder_).locks = false, "";
+    if (verb == "files") return files();
+    if (verb == "mode") {
+      std::ostringstream octal;
+      octal << std::oct << (m != nullptr ? m->at(a).mode : static_cast<unsigned>(std::filesystem::status(a).permissions()));
+      return octal.str();
+    }
+    const bool folder = verb == "folder";
+    if (!folder && verb != "pipe") return "no such operation";
+    if (m == nullptr) return made(folder ? ::mkdir(a.c_str(), 0700) : ::mkfifo(a.c_str(), 0600));
+    m->add(a, "");
+    m->at(a).type = folder ? Type::Folder : Type::Other;
+    if (folder) m->add_folder(folder_ + "/" + a);
+    return "";
+  }
+
+  // One call of the system.
+  std::string call(Text verb, Text a, Text b) {
+    std::string text;
+    if (verb == "content") return read(a, 0, 1000);
+    if (verb == "read") return read(a, std::stoull(b), 4);
+    if (verb == "status") return shown(a, Follow::Nothing);
+    if (verb == "status-followed") return shown(a, Follow::Links);
+    if (verb == "exclude") return said(system_.exclude_others(b, held_.try_emplace(a, system_).first->second.handle()));
+    if (verb == "release") return held_.erase(a), "";
+    if (verb == "rename") return said(system_.rename(a, b));
+    if (verb == "remove") return said(system_.remove(a));
+    if (verb == "real") return system_.without_links(a, text) ? said(system_.without_links(a, text)) : text;
+    if (verb == "owned") return "by " + (system_.owner_of(a).empty() ? "this user" : system_.owner_of(a));
+    if (verb == "enter") return said(system_.change_folder(a == "FOLDER" ? folder_ : folder_ + "/" + a));
+    if (verb == "where") return said(system_.current_folder(text)) + said(system_.change_drive('C')) + text;
+    if (verb == "remember") return remembered_ = look(a, Follow::Nothing), "";
+    if (verb == "changed") return remembered_.same_content(look(a, Follow::Nothing)) ? "no" : "yes";
+    if (verb == "compare") {
+      const Status x = look(a, Follow::Nothing), y = look(b, Follow::Links);
+      return std::string(x.same_file(y) ? "same file" : "two files") + (x.same_content(y) ? ", same content" : "");
+    }
+    if (verb != "take-over") return prepare(verb, a, b);
+    OpenFile file(system_);
+    EXPECT_EQ(system_.create_new(a, file::Access::Private, file.handle()), std::error_code());
+    return said(system_.take_over(file.get(), b));
+  }
+
+  // What the program does, and what happens beside it.
+  std::string perform(Text verb, Text a, Text b) {
+    const auto [first, rest] = split(b);
+    const auto replace = [&](Text temporary, Text target, Text content) {
+      return told([&] { return file::Replacement(watched_, temporary, target, kSpared).commit(content); });
+    };
+    if (verb == "replace") return replace("dbnamep.mdb", a, b);
+    if (verb == "replace-by") return replace(a, first, rest);
+    if (verb == "begin") return begun_.emplace(system_, "dbnamep.mdb", a, kSpared), "";
+    if (verb == "copy") return told([&] { return file::copy_over(watched_, a, b, kSpared); });
+    if (verb == "read-whole") return told([&] { return std::optional(file::read_whole(watched_, b, std::stoul(a))); });
+    if (verb == "finish") {
+      const std::string result = told([&] { return begun_->commit(a); });
+      return begun_.reset(), result;
+    }
+    if (verb == "fail") return fail(call_of(a), std::stoi(first), error_of(rest));
+    if (verb == "undisturbed") {
+      watched_.before = [](const CallInfo&) { return std::nullopt; };
+      watched_.after = [](const CallInfo&) {};
+      return "";
+    }
+    if (verb == "after") {
+      std::string line = b;
+      if (const auto at = line.find("=="); at != line.npos) line.replace(at, 2, "=>");
+      watched_.after = [this, call = call_of(a), line](const CallInfo& info) {
+        if (info.call == call) play(line);
+      };
+      return "";
+    }
+    if (verb != "waiting") return call(verb, a, b);
+    memory_->meanwhile = [this, left = std::stoi(a), b = b]() mutable {
+      if (--left == 0) play(b);
+    };
     return "";
   }
 
@@ -224,154 +313,6 @@ class Script {
   std::map<std::string, OpenFile> held_;
   std::optional<file::Replacement> begun_;
   Status remembered_;
-
-  using Memory = support::MemorySystem;
-  const std::map<std::string, std::function<std::string(Text, Text)>> operations_{
-      // Files made without the program.
-      {"put", [this](Text a, Text b) { return create(a, b, file::Access::Private); }},
-      {"share", [this](Text a, Text b) { return create(a, b, file::Access::Shared); }},
-      {"grow", [this](Text a, Text b) { return grow(a, b); }},
-      {"link",
-       [this](Text a, Text b) {
-         return change([&] { return ::symlink(b.c_str(), a.c_str()); }, [&](Memory& m) { m.link(a, b); });
-       }},
-      {"hardlink",
-       [this](Text a, Text b) {
-         return change([&] { return ::link(b.c_str(), a.c_str()); }, [&](Memory& m) { m.hard_link(a, b); });
-       }},
-      {"folder",
-       [this](Text a, Text) {
-         return change([&] { return ::mkdir(a.c_str(), 0700); },
-                       [&](Memory& m) { m.add(a, ""), m.at(a).type = Type::Folder, m.add_folder(folder_ + "/" + a); });
-       }},
-      {"pipe",
-       [this](Text a, Text) {
-         return change([&] { return ::mkfifo(a.c_str(), 0600); },
-                       [&](Memory& m) { m.add(a, ""), m.at(a).type = Type::Other; });
-       }},
-      {"chmod",
-       [this](Text a, Text b) {
-         const auto mode = static_cast<mode_t>(std::stoi(b, nullptr, 8));
-         return change([&] { return ::chmod(a.c_str(), mode); },
-                       [&](Memory& m) {
-                         if (a == ".")
-                           m.folder(folder_).writable = (mode & 0200) != 0;
-                         else
-                           m.at(a).mode = mode, m.at(a).writable = (mode & 0200) != 0, m.grow(a, "");
-                       });
-       }},
-      {"far", [this](Text a, Text b) { return memory_->add_folder(a, {.device = 2, .writable = b != "closed"}), ""; }},
-      {"own", [this](Text a, Text b) { return memory_->at(a).owner = b, ""; }},
-      {"without-locks", [this](Text, Text) { return memory_->folder(folder_).locks = false, ""; }},
-      {"mode",
-       [this](Text a, Text) {
-         std::ostringstream octal;
-         octal << std::oct
-               << (memory_ != nullptr ? memory_->at(a).mode
-                                      : static_cast<unsigned>(std::filesystem::status(a).permissions()));
-         return octal.str();
-       }},
-      {"files", [this](Text, Text) { return files(); }},
-      // One call of the system.
-      {"content", [this](Text a, Text) { return read(a, 0, 1000); }},
-      {"read", [this](Text a, Text b) { return read(a, std::stoull(b), 4); }},
-      {"status", [this](Text a, Text) { return shown(a, Follow::Nothing); }},
-      {"status-followed", [this](Text a, Text) { return shown(a, Follow::Links); }},
-      {"looped",
-       [this](Text a, Text) {
-         Status status;
-         return said(system_.status(a, Follow::Links, status));
-       }},
-      {"compare",
-       [this](Text a, Text b) {
-         const Status x = look(a, Follow::Nothing), y = look(b, Follow::Links);
-         return std::string(x.same_file(y) ? "same file" : "two files") + (x.same_content(y) ? ", same content" : "");
-       }},
-      {"remember", [this](Text a, Text) { return remembered_ = look(a, Follow::Nothing), ""; }},
-      {"changed",
-       [this](Text a, Text) {
-         const Status now = look(a, Follow::Nothing);
-         return std::string(remembered_.same_content(now) ? "no" : remembered_.changed == now.changed ? "by size" : "yes");
-       }},
-      {"exclude",
-       [this](Text a, Text b) {
-         return said(system_.exclude_others(b, held_.try_emplace(a, system_).first->second.handle()));
-       }},
-      {"release", [this](Text a, Text) { return held_.erase(a), ""; }},
-      {"rename", [this](Text a, Text b) { return said(system_.rename(a, b)); }},
-      {"remove", [this](Text a, Text) { return said(system_.remove(a)); }},
-      {"real",
-       [this](Text a, Text) {
-         std::string real;
-         const auto error = system_.without_links(a, real);
-         return error ? said(error) : real;
-       }},
-      {"take-over",
-       [this](Text a, Text b) {
-         OpenFile file(system_);
-         EXPECT_EQ(system_.create_new(a, file::Access::Private, file.handle()), std::error_code());
-         return said(system_.take_over(file.get(), b));
-       }},
-      {"owned", [this](Text a, Text) { return "by " + (system_.owner_of(a).empty() ? "this user" : system_.owner_of(a)); }},
-      {"enter", [this](Text a, Text) { return said(system_.change_folder(a == "FOLDER" ? folder_ : folder_ + "/" + a)); }},
-      {"where",
-       [this](Text, Text) {
-         std::string folder;
-         return said(system_.current_folder(folder)) + folder + said(system_.change_drive('C'));
-       }},
-      // What the program does, and what happens beside it.
-      {"replace",
-       [this](Text a, Text b) {
-         return told([&] { return file::Replacement(watched_, "dbnamep.mdb", a, kSpared).commit(b); });
-       }},
-      {"replace-by",
-       [this](Text a, Text b) {
-         return told([&] { return file::Replacement(watched_, a, split(b).first, kSpared).commit(split(b).second); });
-       }},
-      {"begin", [this](Text a, Text) { return begun_.emplace(system_, "dbnamep.mdb", a, kSpared), ""; }},
-      {"finish",
-       [this](Text a, Text) {
-         const std::string result = told([&] { return begun_->commit(a); });
-         return begun_.reset(), result;
-       }},
-      {"copy", [this](Text a, Text b) { return told([&] { return file::copy_over(watched_, a, b, kSpared); }); }},
-      {"read-whole",
-       [this](Text limit, Text a) {
-         return told([&] { return std::optional(file::read_whole(watched_, a, std::stoul(limit))); });
-       }},
-      {"fail",
-       [this](Text a, Text b) {
-         static const std::map<std::string, std::errc> kErrors{{"EIO", std::errc::io_error},
-                                                               {"EACCES", std::errc::permission_denied},
-                                                               {"EPERM", std::errc::operation_not_permitted},
-                                                               {"EINTR", std::errc::interrupted},
-                                                               {"EBUSY", std::errc::device_or_resource_busy},
-                                                               {"ENOENT", std::errc::no_such_file_or_directory},
-                                                               {"nothing", std::errc()}};
-         return fail(call_of(a), std::stoi(split(b).first), make_error_code(kErrors.at(split(b).second)));
-       }},
-      {"after",
-       [this](Text a, Text b) {
-         watched_.after = [this, call = call_of(a), b = b](const CallInfo& info) {
-           if (info.call == call)
-             play(b.substr(0, b.find("==")) + (b.find("==") == b.npos ? "" : "=>" + b.substr(b.find("==") + 2)));
-         };
-         return "";
-       }},
-      {"waiting",
-       [this](Text a, Text b) {
-         memory_->meanwhile = [this, left = std::stoi(a), b = b]() mutable {
-           if (--left == 0) play(b);
-         };
-         return "";
-       }},
-      {"undisturbed",
-       [this](Text, Text) {
-         watched_.before = [](const CallInfo&) { return std::nullopt; };
-         watched_.after = [](const CallInfo&) {};
-         return "";
-       }},
-  };
 };
 
 class Disk : public testing::TestWithParam<bool> {};

@@ -7,7 +7,6 @@
 #include <cstddef>
 #include <cstdlib>
 #include <functional>
-#include <initializer_list>
 #include <iostream>
 #include <map>
 #include <new>
@@ -52,35 +51,23 @@ struct Fault {
   bool for_ever;
 };
 
+// Quota has no name of its own among these; to the program it is one more failed write.
 std::vector<Instead> failures_of(Call call) {
-  const auto errors = [](std::initializer_list<std::errc> codes) {
-    std::vector<Instead> all;
-    for (const std::errc code : codes) all.push_back({make_error_code(code), false});
-    return all;
-  };
   using E = std::errc;
-  // Quota has no name of its own among these; to the program it is one more failed write.
-  switch (call) {
-    case Call::Read: {
-      auto all = errors({E::io_error, E::interrupted});
-      all.push_back({{}, true});
-      return all;
-    }
-    case Call::Write: {
-      auto all = errors({E::no_space_on_device, E::io_error, E::file_too_large, E::interrupted});
-      all.push_back({{}, true});
-      return all;
-    }
-    case Call::Flush:
-    case Call::Close: return errors({E::io_error, E::no_space_on_device});
-    case Call::FlushFolder: return errors({E::io_error, E::permission_denied, E::interrupted});
-    case Call::CreateNew:
-      return errors({E::no_space_on_device, E::permission_denied, E::io_error, E::file_exists, E::interrupted});
-    case Call::Rename:
-      return errors({E::no_space_on_device, E::permission_denied, E::io_error, E::cross_device_link, E::interrupted});
-    case Call::ExcludeOthers: return errors({E::operation_would_block, E::not_supported, E::io_error, E::interrupted});
-    default: return errors({E::permission_denied, E::io_error, E::interrupted});
-  }
+  static const std::map<Call, std::vector<E>> kOwn{
+      {Call::Read, {E::io_error, E::interrupted}},
+      {Call::Write, {E::no_space_on_device, E::io_error, E::file_too_large, E::interrupted}},
+      {Call::Flush, {E::io_error, E::no_space_on_device}},
+      {Call::Close, {E::io_error, E::no_space_on_device}},
+      {Call::CreateNew, {E::no_space_on_device, E::permission_denied, E::io_error, E::file_exists, E::interrupted}},
+      {Call::Rename, {E::no_space_on_device, E::permission_denied, E::io_error, E::cross_device_link, E::interrupted}},
+      {Call::ExcludeOthers, {E::operation_would_block, E::not_supported, E::io_error, E::interrupted}}};
+  const auto own = kOwn.find(call);
+  std::vector<Instead> all;
+  for (const E code : own != kOwn.end() ? own->second : std::vector{E::permission_denied, E::io_error, E::interrupted})
+    all.push_back({make_error_code(code), false});
+  if (call == Call::Read || call == Call::Write) all.push_back({{}, true});
+  return all;
 }
 
 // What an operation is tried on and how; each try begins anew.
@@ -121,7 +108,6 @@ void select_first(Program& program) {
   program.Answer(ui::Answer::Yes);
 }
 void nothing(MemorySystem&) {}
-void two_names(MemorySystem& system) { system.hard_link("y.mdb", "x.mdb"); }
 
 const Operation kOperations[] = {
     {"change", nothing, change, app::cmdSavedb},
@@ -136,8 +122,6 @@ const Operation kOperations[] = {
      change, app::cmdSavedb},
     {"add", nothing, enter_new_species, app::cmdSavedb},
     {"deletion", nothing, select_first, app::cmdDelete},
-    {"change of a file with two names", two_names, change, app::cmdSavedb, false},
-    {"deletion in a file with two names", two_names, select_first, app::cmdDelete, false},
     {"to new", nothing,
      [](Program& p) {
        change(p);

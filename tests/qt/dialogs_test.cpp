@@ -108,13 +108,6 @@ TEST_F(QtDialog, FileToOpenIsThere) {
                    }),
             file("a.MDB"));
   EXPECT_EQ(choose(request, [](QFileDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); }), std::nullopt);
-  const FileRequest names{.form = FileRequest::Form::Save, .filter = "A (*.MDB)|*.MDB", .folder = file("")};
-  EXPECT_EQ(choose(names,
-                   [](QFileDialog& dialog) {
-                     dialog.findChild<QLineEdit*>()->setText(QString::fromUtf8("\u00e4\u0416.mdb"));
-                     QTest::keyClick(&dialog, Qt::Key_Return);
-                   }),
-            file("\xc3\xa4\xd0\x96.mdb"));
 }
 
 TEST_F(QtDialog, FileToWriteGetsTheExtensionAndIsReplacedOnlyWhenTheUserSaysSo) {
@@ -141,6 +134,7 @@ TEST_F(QtDialog, FileToWriteGetsTheExtensionAndIsReplacedOnlyWhenTheUserSaysSo) 
   const FileRequest names{.form = FileRequest::Form::Save, .filter = "Kelmar (*.MDB)|*.MDB", .folder = file("")};
   EXPECT_EQ(choose(names, type("there.NIC", std::nullopt)), file("there.NIC"));
   EXPECT_EQ(choose(names, type("plain", std::nullopt)), file("plain"));
+  EXPECT_EQ(choose(names, type("\u00e4\u0416", std::nullopt)), file("\xc3\xa4\xd0\x96"));
 }
 
 }  // namespace
