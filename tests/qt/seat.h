@@ -25,13 +25,11 @@ struct Samples {
   WatchedSystem watched{system};
 };
 
-class PlainSeat : public Samples, public Program {
- public:
+struct PlainSeat : Samples, Program {
   PlainSeat() : Program(watched) {}
 };
 
-class QtSeat : public Samples, public WithVerbs<player::QtPlayer> {
- public:
+struct QtSeat : Samples, WithVerbs<player::QtPlayer> {
   QtSeat() : WithVerbs(watched) {}
   void load() {
     play({.kind = player::Event::Kind::Load});
