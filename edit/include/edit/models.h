@@ -20,7 +20,7 @@ struct Model {
   };
   std::vector<Site> sites{};
   bool sites_alike = false;
-  double hidden_above = 1300, hidden_below = 1300, last = 1e300;
+  double hidden_above = 1300, hidden_below = 1300, last = 1e300;  // none hidden; no last
 };
 
 // In the order of the selector, but for the last, which is that of NICA-Donnan databases.
