@@ -53,7 +53,8 @@ void frmMaindb::cmdNewDb_Click() {
   const auto misnamed = db::misnamed(state_.open);
   set(lblNameDb, *chosen);
   // What was shown under a wrong name goes with it.
-  if (was_misnamed && !misnamed && !db::leading_of(state_.open.kind).model) open_database(*chosen);
+  const bool anew = was_misnamed && !misnamed && !db::leading_of(state_.open.kind).model;
+  if (anew) open_database(*chosen);
   if (warning) refuse(*warning);
   try {
     savedb();
@@ -62,6 +63,7 @@ void frmMaindb::cmdNewDb_Click() {
     refuse(refusal.what());
   } catch (const file::Error&) {
   }
+  if (anew) Listfill();  // a save that stopped at a message has not
 }
 
 void frmMaindb::savedb() {

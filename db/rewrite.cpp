@@ -23,6 +23,9 @@ std::optional<std::string> copy_to(file::System& system, const Database& databas
   if (database.misplaced && there) throw misplaced(database);
   if (file::same_place(system, path, kTemporaryFile))
     throw file::Refusal(file::named(path) + " is the temporary file of every save. Choose another name.");
+  if (file::same_place(system, database.path, kTemporaryFile))
+    throw file::Refusal(file::named(database.path) + " is the temporary file of every save, which would remove it. Copy it " +
+                        "to another name and open that.");
   return file::copy_over(system, database.path, path, spare_components(compdb));
 }
 
@@ -34,6 +37,7 @@ Rewrite::Rewrite(file::System& system, const Database& database, const std::stri
   constexpr std::size_t kGrowth = 4096;  // room for one more species
   out_.reserve(std::min(replacement_.old_size(), file::kLargestDatabase) + kGrowth);
   LeadingFields fields = reader_.read_leading(leading_of(database.kind));
+  if (fields.begins_with_number) refuse_kind("a number stands in the place of the first text");
   no_model_ = fields.model_is_empty;
   if (fields.model && !leading.model.empty()) {
     fields.model = leading.model;
@@ -43,13 +47,19 @@ Rewrite::Rewrite(file::System& system, const Database& database, const std::stri
   append_leading(out_, fields);
 }
 
+void Rewrite::refuse_kind(const std::string& sign) const {
+  reader_.refuse(sign + ", as where a database bears the name of another kind. Nothing was changed. Give it the name of its " +
+                 "kind and open it again");
+}
+
 bool Rewrite::keep_until(std::optional<std::string_view> name) {
   while (const Record* record = reader_.next()) {
-    if (++old_species_ == 1 && !record->head[kId].text.empty() && !record->head[kId].number())
-      reader_.refuse(no_model_ ? "an empty line or field stands in the place of the model, and a text in that of the ID "
-                                 "number. Nothing was changed. Remove the empty line with a text editor"
-                               : "a text stands in the place of the ID number, as where a database bears the name of "
-                                 "another kind. Nothing was changed. Give it the name of its kind and open it again");
+    if (++old_species_ == 1 && !record->head[kId].text.empty() && !record->head[kId].number()) {
+      if (!no_model_) refuse_kind("a text stands in the place of the ID number");
+      reader_.refuse(
+          "an empty line or field stands in the place of the model, and a text in that of the ID number. Nothing was "
+          "changed. Remove the empty line with a text editor");
+    }
     if (name && record->name() == *name) return true;
     append_record(out_, *record);
     count();

@@ -48,6 +48,7 @@ LeadingFields SpeciesReader::read_leading(Leading leading) {
                "\", not a number. Mend the file with a text editor");
       read.blm = {std::string(fields[0].text), std::string(fields[1].text), *critical_f};
     }
+    read.begins_with_number = fields[0].type() == FieldType::Number;
     return read;
   });
 }

@@ -3,11 +3,23 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 
 #include "db/field.h"
 #include "edit/models.h"
 
 namespace edit {
+namespace {
+
+constexpr double kTooLarge = std::numeric_limits<double>::infinity();
+
+// A whole number; of a very large one only some digits are written.
+double as_written(double id) {
+  constexpr double kExact = 1e15;
+  return std::abs(id) < kExact ? std::nearbyint(id) : db::parse_number(db::format_number(id)).value_or(id);
+}
+
+}  // namespace
 
 void look_up(file::System& system, const std::string& compdb, const std::string& comp1, const std::string& comp2,
              IdBase& base) {
@@ -24,25 +36,21 @@ IdBase with_site(IdBase base, std::string_view isomodel, std::string_view first_
   return {site == its.sites.end() ? its.site : site->number, its.sites_alike ? base.first : base.second};
 }
 
-double first_candidate(const IdBase& base) {
-  constexpr double kExact = 1e15;  // from here on not all digits of a number are written
-  const double candidate = base.first * 10000 + base.second * 10;
-  if (!(std::abs(candidate) < kExact && std::abs(base.second * 10000 + base.first * 10) < kExact))
-    throw file::Refusal("The component numbers are too large to build an ID number of. Type one.");
-  return candidate;
-}
+double first_candidate(const IdBase& base) { return base.first * 10000 + base.second * 10; }
 
 double free_id(const IdBase& base, std::vector<double> used) {
-  for (double& id : used) id = std::nearbyint(id);
-  std::ranges::sort(used);
-  const auto is_free = [&](double id) { return !std::ranges::binary_search(used, std::nearbyint(id)); };
   const double candidate = first_candidate(base), exchanged = first_candidate({base.second, base.first});
+  if (!std::isfinite(candidate) || !std::isfinite(exchanged))
+    throw file::Refusal("The component numbers are too large to build an ID number of. Type one.");
+  for (double& id : used) id = as_written(id);
+  std::ranges::sort(used);
+  const auto is_free = [&](double id) { return !std::ranges::binary_search(used, as_written(id)); };
   for (int i = 0; i < 10; ++i)
     if (is_free(candidate + i)) return candidate + i;
   for (int i = 0; i < 10; ++i)
     if (is_free(exchanged + i)) return exchanged + i;
   double id = exchanged + 11;
-  while (!is_free(id)) ++id;
+  while (!is_free(id)) id = std::max(id + 1, std::nextafter(id, kTooLarge));
   return id;
 }
 

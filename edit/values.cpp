@@ -24,9 +24,8 @@ long leading_power(std::string_view number) {
   return power + exponent;
 }
 
-}  // namespace
-
-double number_rule(std::string_view text) {
+// The rule; a message shows `typed`.
+double value_of(std::string_view text, std::string_view typed) {
   std::string digits;
   for (const char c : text)
     if (c != ' ' && c != '\t' && c != '\n') digits += c;
@@ -41,14 +40,18 @@ double number_rule(std::string_view text) {
   const bool out_of_range = error == std::errc::result_out_of_range;
   if (out_of_range && leading_power(std::string_view(begin, stop)) < 0) return 0;  // too small for a double is as good as 0
   if (out_of_range || value >= db::kTooLarge)
-    throw file::Refusal("\"" + file::named(text) + "\" is too large a number. Correct it before saving.");
+    throw file::Refusal("\"" + file::named(typed) + "\" is too large a number. Correct it before saving.");
   return negative ? -value : value;
 }
+
+}  // namespace
+
+double number_rule(std::string_view text) { return value_of(text, text); }
 
 double comma_number(std::string_view text) {
   std::string with_point(text);
   if (const auto comma = with_point.find(','); comma != std::string::npos) with_point[comma] = '.';
-  return number_rule(with_point);
+  return value_of(with_point, text);
 }
 
 }  // namespace edit

@@ -59,7 +59,7 @@ std::error_code open_plain(const std::string& path, int flags, Handle& handle) {
 
 // Access list and user attributes. A new file may have got an access list from its folder: that goes if the old one has
 // none.
-std::error_code copy_attributes(int to, const std::string& from, bool& has_list) {
+std::error_code copy_attributes(int to, const std::string& from) {
   std::string names(kLargestAttribute, '\0'), value(kLargestAttribute, '\0');
   const ssize_t length = ::listxattr(from.c_str(), names.data(), names.size());
   if (length < 0) return errno == ENOTSUP ? std::error_code() : last_error();
@@ -69,7 +69,6 @@ std::error_code copy_attributes(int to, const std::string& from, bool& has_list)
     const std::string name = names.c_str() + at;
     if (!name.starts_with("user.") && name != kAccessList) continue;
     const ssize_t size = ::getxattr(from.c_str(), name.c_str(), value.data(), value.size());
-    has_list |= name == kAccessList;
     if (size == -1 || ::fsetxattr(to, name.c_str(), value.data(), static_cast<std::size_t>(size), 0) != 0)
       return last_error();
   }
@@ -145,17 +144,19 @@ class PosixSystem final : public System {
     }, now{};
     if (::stat(path.c_str(), &like) != 0) return last_error();
     std::error_code error;
-    bool has_list = false;
     if (::fchown(fd, like.st_uid, like.st_gid) != 0 && ::fchown(fd, static_cast<uid_t>(-1), like.st_gid) != 0)
       error = last_error();
-    // Before the mode, which would lend what a list withholds; the mode after the owner, whose change clears some bits.
-    if (const auto failed = copy_attributes(fd, path, has_list)) return failed;
-    if (::fchmod(fd, like.st_mode & 07777) != 0) error = last_error();
     if (::fstat(fd, &now) != 0) return last_error();
     constexpr mode_t kReadAndWrite = S_IROTH | S_IWOTH;
-    const bool same_mode = ((now.st_mode ^ like.st_mode) & (S_IRUSR | S_IWUSR | S_IRGRP | S_IWGRP | kReadAndWrite)) == 0;
+    const bool has_list = ::getxattr(path.c_str(), kAccessList, nullptr, 0) > 0;  // for which the mode shows only its mask
     const bool group_matters = has_list || ((like.st_mode >> 3) & kReadAndWrite) != (like.st_mode & kReadAndWrite);
-    if (same_mode && (now.st_gid == like.st_gid || !group_matters)) return {};
+    if (now.st_gid != like.st_gid && group_matters) return error ? error : make_error_code(std::errc::operation_not_permitted);
+    // Before the mode, which would lend what a list withholds; the mode after the owner, whose change clears some bits.
+    if (const auto failed = copy_attributes(fd, path)) return failed;
+    if (::fchmod(fd, like.st_mode & 07777) != 0) error = last_error();
+    if (::fstat(fd, &now) != 0) return last_error();
+    const bool same_mode = ((now.st_mode ^ like.st_mode) & (S_IRUSR | S_IWUSR | S_IRGRP | S_IWGRP | kReadAndWrite)) == 0;
+    if (same_mode) return {};
     return error ? error : make_error_code(std::errc::operation_not_permitted);
   }
 

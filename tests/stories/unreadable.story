@@ -115,7 +115,7 @@ dialog save [Kelmar database files (*.MDB)|*.MDB]
 > type txtStoicn 1
 > type txtSpname New
 > click cmdSuggest
-box [Kelmar error] critical OK [The component numbers are too large to build an ID number of. Type one.]
+box [Kelmar error] critical OK [No ID number can be suggested: copy.mdb, record 3 (cut): the file ends inside the record. Type an ID number, or mend the file and try again.]
 file copy.mdb
 + 501,"CuX",0,1.5,0,0,2,0,0,0,0,2
 + 1,231,-1,9999

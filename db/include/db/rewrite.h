@@ -46,6 +46,7 @@ class Rewrite {
   [[nodiscard]] std::optional<std::string> commit() { return replacement_.commit(content()); }
 
  private:
+  [[noreturn]] void refuse_kind(const std::string& sign) const;
   void count();
 
   file::Replacement replacement_;  // first: nobody else may replace the file once it is read

@@ -22,11 +22,12 @@ void look_up(file::System& system, const std::string& compdb, const std::string&
 // Puts the site number of an isotherm model in the first place; `first_component` is the text of the first row.
 IdBase with_site(IdBase base, std::string_view isomodel, std::string_view first_component);
 
-// first * 10000 + second * 10. Throws file::Refusal when the numbers are too large for whole ID numbers.
+// first * 10000 + second * 10.
 double first_candidate(const IdBase& base);
 
 // The first number that is not in use, whole numbers compared: of the first candidate and the nine after it; of the same
 // with first and second exchanged; from that exchanged number + 11 upward. (That + 10 is left out.)
+// Throws file::Refusal when a double cannot hold them.
 double free_id(const IdBase& base, std::vector<double> used);
 
 // That of the open database, which is read once. Throws file::Error.
