@@ -98,7 +98,7 @@ std::string rewrite(const Arguments& arguments) {
     EXPECT_EQ(system.content(name), content);
     return error.what();
   }
-  const std::string once = system.content(name);
+  std::string once = system.content(name);
   EXPECT_TRUE(once == content || rewrite({name, once}) == once) << "not stable";
   return once;
 }
@@ -132,7 +132,7 @@ std::string free_id(const Arguments& arguments) {
   try {
     std::vector<double> numbers;
     for (std::string range; used >> range;)
-      for (double i = 0, count = range.find('*') == range.npos ? 1 : std::stod(range.substr(range.find('*') + 1)); i < count;
+      for (int i = 0, count = range.find('*') == range.npos ? 1 : std::stoi(range.substr(range.find('*') + 1)); i < count;
            ++i)
         numbers.push_back(std::stod(range) + i);
     return db::format_number(edit::free_id(base, numbers));
