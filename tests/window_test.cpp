@@ -60,6 +60,16 @@ TEST_F(Story, StartUpInAFolderThatCannotBeUsed) {
     EXPECT_EQ(failing.form.state().open.path, "");
     EXPECT_TRUE(system.has("sorptemp.dat"));
   }
+  const std::string development = R"(C:\Program\Microsoft Visual Studio\VB98)";
+  system.add_folder(development);
+  EXPECT_EQ(system.change_folder(development), std::error_code());
+  Program elsewhere(system);
+  elsewhere.form.load();
+  EXPECT_EQ(
+      elsewhere.LastBox(),
+      R"([The editor cannot start in c:\Program Files\kelmar: the folder cannot be entered: No such file or directory.)"
+      " Start it from Kelmar, in Kelmar's folder.]");
+  EXPECT_EQ(system.change_folder("/kelmar"), std::error_code());
   system.add("dabase.txt", "");
   program.form.load();
   EXPECT_EQ(program.LastBox(),
@@ -191,9 +201,10 @@ TEST_F(Story, DatabaseThatCouldNotBeCopiedIsLeftAlone) {
   failing.type(txtName, std::string(65535, 'n'));
   failing.Save();
   EXPECT_EQ(failing.LastBox(), "[The species name is longer than 65534 characters. Shorten it.]");
-  failing.type(txtName, "Fe");
+  const std::string longest(65534, 'n');
+  failing.type(txtName, longest);
   failing.Save();
-  EXPECT_EQ(system.content("c.mdb"), lines({"502,\"Fe\",0,1.5,0,0,2,0,0,0,0,2", "1,231,-1,9999"}) + kTrailer);
+  EXPECT_EQ(system.content("c.mdb"), lines({"502,\"" + longest + "\",0,1.5,0,0,2,0,0,0,0,2", "1,231,-1,9999"}) + kTrailer);
 }
 
 // What is read is what is locked, wherever a link leads meanwhile.

@@ -1,4 +1,5 @@
-# What the boxes become in the file: the toxicity flag, M.B. stoichiometries up to 99, and what is too large or too long.
+# What the boxes become in the file: the toxicity flag, M.B. stoichiometries up to 99, and what is too large or too long. A
+# component without a number counts as 0 in an ID number.
 put t.bli
 | "text"
 | "label",.5
@@ -16,6 +17,8 @@ put f.iso
 | 503,"NiX",0,1.5,0,0,2,0,0,0,0,2
 | 1,231,2,330
 | trailer
+put c.mdb
+| ,"none",0,0,0,"x"
 put sorptemp.dat
 | t.bli
 > load
@@ -72,16 +75,79 @@ box [Kelmar error] critical OK [The ID number is 0, which would end the list of 
 > click cmdSavedb
 box [Species change - Kelmar] question YesNo [Are you really sure you would like to save changes to the database? - The old settings will disappear forever]
 box [Kelmar error] critical OK [A species name cannot hold a double quote or a line end. Correct it before saving.]
-> type txtName  a,b 
+> type txtName  a,b? 
 > type txtComp(1) =SOH
 > answer Yes
 > click cmdSavedb
 box [Species change - Kelmar] question YesNo [Are you really sure you would like to save changes to the database? - The old settings will disappear forever]
+> choose c.mdb
+> click cmdCompdb
+dialog save [Kelmar database files (*.MDB)|*.MDB]
+> click cmdAddnew
+> type cboComp none
+> type txtStoicn 1
+> click cmdNextcomp
+> type cboComp none
+> type txtStoicn 1
+> type txtSpname New
+> click cmdSuggest
+> state
+cboComp shown [] 1
+  [H2O]
+cboIsoterm shown [Freundlich] 7
+  [Linear Kd]
+  [Freundlich]
+  [Extended Freundlich]
+  [Langmuir]
+  [Temkin]
+  [Langmuir-Freundlich]
+  [NICA]
+changedone [N]
+cmdNextcomp shown [Next component]
+cmdSuggest shown [Suggest ID number]
+compdb [c.mdb]
+compslot 3
+dbname [f.iso]
+isomodel [Freundlich]
+isoselect [Freundlich]
+lblAddnew shown [Add new species:]
+lblComp shown [Component no.  3]
+lblIsoterm shown [Isotherm model]
+lblKsel hidden [Contributes to toxicity]
+lblLogk shown [log KF]
+lblMA shown [M.A.]
+lblMAnote shown [Here you supply the M.A. stoichiometry]
+lblMB shown [M.B.*]
+lblMBnote shown [* Leave M.B. field blank if the M.B. stoichiometry is equal to the M.A. stocihiometry]
+lblNameDb shown [f.iso]
+lblSpname shown [Species name]
+lblStoich(1) shown [Stoichiometry of 1st component]
+lblStoich(2) shown [Stoichiometry of 2nd component]
+lbldhr hidden [dHr (kJ/mol)]
+lstReactions shown [New] 4
+  [CuX]
+  [FeX]
+  [a,b?]
+  [New]
+mbfields true
+txtComp(1) shown [none]
+txtComp(2) shown [none]
+txtID shown [ 13010000]
+txtMBstoich(1) shown []
+txtMBstoich(2) shown []
+txtName shown [New]
+txtNocomp shown [ 2]
+txtSpname shown [New]
+txtStoich(1) shown [1]
+txtStoich(2) shown [1]
+txtStoicn shown []
+txtdhr hidden []
+txtf50 hidden [.375]
 file f.iso
 + 501,"CuX",0,1.5,0,0,2,0,0,0,0,102
 + 1
 + 98.9,330
-+ 501.5,"a,b",0,1.5,0,0,2,0,0,0,0,1
++ 501.5,"a,b?",0,1.5,0,0,2,0,0,0,0,1
 + 1,812
 - 501,"CuX",0,1.5,0,0,2,0,0,0,0,2
 - 503,"NiX",0,1.5,0,0,2,0,0,0,0,2
