@@ -24,7 +24,8 @@ std::optional<std::string> copy_to(file::System& system, const Database& databas
   if (file::same_place(system, path, kTemporaryFile))
     throw file::Refusal(file::named(path) + " is the temporary file of every save. Choose another name.");
   if (file::same_place(system, database.path, kTemporaryFile))
-    throw file::Refusal(file::named(database.path) + " is the temporary file of every save, which would remove it. Copy it " +
+    throw file::Refusal(file::named(database.path) +
+                        " is the temporary file of every save, which would remove it. Copy it " +
                         "to another name and open that.");
   return file::copy_over(system, database.path, path, spare_components(compdb));
 }
@@ -48,7 +49,8 @@ Rewrite::Rewrite(file::System& system, const Database& database, const std::stri
 }
 
 void Rewrite::refuse_kind(const std::string& sign) const {
-  reader_.refuse(sign + ", as where a database bears the name of another kind. Nothing was changed. Give it the name of its " +
+  reader_.refuse(sign +
+                 ", as where a database bears the name of another kind. Nothing was changed. Give it the name of its " +
                  "kind and open it again");
 }
 

@@ -110,8 +110,8 @@ class PosixSystem final : public System {
     if (error == std::errc::no_lock_available || error == std::errc::function_not_supported)
       error = make_error_code(std::errc::not_supported);
     // Whoever had it may just have put another file under the name: that one is not ours yet.
-    struct stat locked {
-    }, named{};
+    struct stat locked {};
+    struct stat named {};
     if (!error && (::fstat(fd, &locked) != 0 || ::lstat(path.c_str(), &named) != 0 || locked.st_dev != named.st_dev ||
                    locked.st_ino != named.st_ino))
       error = make_error_code(std::errc::operation_would_block);
@@ -140,8 +140,8 @@ class PosixSystem final : public System {
   // counts. Who may only execute the file does not, and whose it is neither, as long as group and permissions are the same.
   std::error_code take_over(Handle handle, const std::string& path) override {
     const int fd = descriptor(handle);
-    struct stat like {
-    }, now{};
+    struct stat like {};
+    struct stat now {};
     if (::stat(path.c_str(), &like) != 0) return last_error();
     std::error_code error;
     if (::fchown(fd, like.st_uid, like.st_gid) != 0 && ::fchown(fd, static_cast<uid_t>(-1), like.st_gid) != 0)
@@ -150,7 +150,8 @@ class PosixSystem final : public System {
     constexpr mode_t kReadAndWrite = S_IROTH | S_IWOTH;
     const bool has_list = ::getxattr(path.c_str(), kAccessList, nullptr, 0) > 0;  // for which the mode shows only its mask
     const bool group_matters = has_list || ((like.st_mode >> 3) & kReadAndWrite) != (like.st_mode & kReadAndWrite);
-    if (now.st_gid != like.st_gid && group_matters) return error ? error : make_error_code(std::errc::operation_not_permitted);
+    if (now.st_gid != like.st_gid && group_matters)
+      return error ? error : make_error_code(std::errc::operation_not_permitted);
     // Before the mode, which would lend what a list withholds; the mode after the owner, whose change clears some bits.
     if (const auto failed = copy_attributes(fd, path)) return failed;
     if (::fchmod(fd, like.st_mode & 07777) != 0) error = last_error();

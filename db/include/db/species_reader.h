@@ -52,7 +52,7 @@ struct BlmFields {
 struct LeadingFields {
   std::optional<std::string> model;
   bool begins_with_number = false;  // as a database without leading fields does
-  bool model_is_empty = false;  // an empty line or field, not an empty text
+  bool model_is_empty = false;      // an empty line or field, not an empty text
   std::optional<BlmFields> blm;
 };
 

@@ -13,7 +13,7 @@ namespace edit {
 // What a save puts into the database.
 struct Change {
   std::optional<std::string> species{};  // its name, of which every one is changed; nothing: none is
-  bool adds;                     // it comes new, before the others
+  bool adds;                             // it comes new, before the others
   Entry entry{};
   std::string critical_f{};  // the text of its box
 };
