@@ -145,6 +145,7 @@ TEST_F(Story, FullDatabaseTakesNoFurtherSpecies) {
   std::string content;
   for (int i = 1; i <= 3999; ++i) content += lines({"1,\"a\",0,0,0,0,0,0,0,0,0,0"});
   Start("x.mdb", content + kTrailer);
+  EXPECT_EQ(program.form.state().dialog_folder, "/kelmar");
   add_species(program);
   EXPECT_EQ(program.LastBox(),
             "[x.mdb is full: a species database holds at most 3999 species. Delete one first, or add this one to another "
@@ -170,10 +171,19 @@ TEST_F(Story, DatabaseThatCouldNotBeCopiedIsLeftAlone) {
   system.add("sorptemp.dat", "x.mdb");
   failing.form.load();
   failing.Select("CuX");
-  watched.before = [](const support::CallInfo& info) -> std::optional<support::Instead> {
-    if (info.call != support::Call::Rename) return std::nullopt;
-    return support::Instead{make_error_code(std::errc::io_error)};
+  const auto fail = [&](support::Call call) {
+    watched.before = [call, made = 0](const support::CallInfo& info) mutable -> std::optional<support::Instead> {
+      if (info.call != call || ++made > 1) return std::nullopt;
+      return support::Instead{make_error_code(std::errc::io_error)};
+    };
   };
+  // A copy that a power cut may take back is told as that.
+  fail(support::Call::FlushFolder);
+  failing.Choose("x.mdb.mdb");
+  failing.click(cmdNewDb);
+  EXPECT_TRUE(failing.LastBox().starts_with("[cannot write to the disk the folder of")) << failing.LastBox();
+  failing.Select("CuX");
+  fail(support::Call::Rename);
   failing.told.clear();
   failing.Choose("b.iso");
   failing.click(cmdNewDb);

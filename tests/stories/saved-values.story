@@ -80,6 +80,40 @@ box [Kelmar error] critical OK [A species name cannot hold a double quote or a l
 > answer Yes
 > click cmdSavedb
 box [Species change - Kelmar] question YesNo [Are you really sure you would like to save changes to the database? - The old settings will disappear forever]
+> select 0
+> answer Yes
+> click cmdDelete
+box [Deletion of species - Kelmar] question YesNo [Are you really sure you would like to delete this species from the database? Once deleted it is gone!]
+> state
+cboIsoterm shown [Freundlich] 7
+  [Linear Kd]
+  [Freundlich]
+  [Extended Freundlich]
+  [Langmuir]
+  [Temkin]
+  [Langmuir-Freundlich]
+  [NICA]
+changedone [N]
+cmdDelete shown [Delete this species]
+compdb [comp.mdb]
+dbname [f.iso]
+isomodel [Freundlich]
+isoselect [Freundlich]
+lblIsoterm shown [Isotherm model]
+lblKsel hidden [Contributes to toxicity]
+lblLogk shown [log KF]
+lblMA shown [M.A.]
+lblMB shown [M.B.*]
+lblMBnote shown [* Leave M.B. field blank if the M.B. stoichiometry is equal to the M.A. stocihiometry]
+lblNameDb shown [f.iso]
+lbldhr hidden [dHr (kJ/mol)]
+lstReactions shown [] 2
+  [FeX]
+  [a,b?]
+mbfields true
+txtNocomp shown [0]
+txtdhr hidden []
+txtf50 hidden [.375]
 > choose c.mdb
 > click cmdCompdb
 dialog save [Kelmar database files (*.MDB)|*.MDB]
@@ -94,42 +128,21 @@ dialog save [Kelmar database files (*.MDB)|*.MDB]
 > state
 cboComp shown [] 1
   [H2O]
-cboIsoterm shown [Freundlich] 7
-  [Linear Kd]
-  [Freundlich]
-  [Extended Freundlich]
-  [Langmuir]
-  [Temkin]
-  [Langmuir-Freundlich]
-  [NICA]
-changedone [N]
+cmdDelete hidden [Delete this species]
 cmdNextcomp shown [Next component]
 cmdSuggest shown [Suggest ID number]
 compdb [c.mdb]
 compslot 3
-dbname [f.iso]
-isomodel [Freundlich]
-isoselect [Freundlich]
 lblAddnew shown [Add new species:]
 lblComp shown [Component no.  3]
-lblIsoterm shown [Isotherm model]
-lblKsel hidden [Contributes to toxicity]
-lblLogk shown [log KF]
-lblMA shown [M.A.]
 lblMAnote shown [Here you supply the M.A. stoichiometry]
-lblMB shown [M.B.*]
-lblMBnote shown [* Leave M.B. field blank if the M.B. stoichiometry is equal to the M.A. stocihiometry]
-lblNameDb shown [f.iso]
 lblSpname shown [Species name]
 lblStoich(1) shown [Stoichiometry of 1st component]
 lblStoich(2) shown [Stoichiometry of 2nd component]
-lbldhr hidden [dHr (kJ/mol)]
-lstReactions shown [New] 4
-  [CuX]
+lstReactions shown [New] 3
   [FeX]
   [a,b?]
   [New]
-mbfields true
 txtComp(1) shown [none]
 txtComp(2) shown [none]
 txtID shown [ 13010000]
@@ -141,15 +154,11 @@ txtSpname shown [New]
 txtStoich(1) shown [1]
 txtStoich(2) shown [1]
 txtStoicn shown []
-txtdhr hidden []
-txtf50 hidden [.375]
 file f.iso
-+ 501,"CuX",0,1.5,0,0,2,0,0,0,0,102
-+ 1
-+ 98.9,330
 + 501.5,"a,b?",0,1.5,0,0,2,0,0,0,0,1
 + 1,812
 - 501,"CuX",0,1.5,0,0,2,0,0,0,0,2
+- 1,231,2,330
 - 503,"NiX",0,1.5,0,0,2,0,0,0,0,2
 - 1,231,2,330
 file t.bli
