@@ -1,5 +1,5 @@
 # What the boxes become in the file: the toxicity flag, M.B. stoichiometries up to 99, and what is too large or too long. A
-# component without a number counts as 0 in an ID number.
+# component without a number counts as 0 in an ID number, and a suggestion shows the boxes of NICA.
 put t.bli
 | "text"
 | "label",.5
@@ -154,6 +154,48 @@ txtSpname shown [New]
 txtStoich(1) shown [1]
 txtStoich(2) shown [1]
 txtStoicn shown []
+> pick cboIsoterm 6
+> click cmdAddnew
+> type cboComp NICAsite1
+> type txtStoicn 1
+> type txtSpname Other
+> click cmdSuggest
+> state
+cboIsoterm shown [NICA] 7
+  [Linear Kd]
+  [Freundlich]
+  [Extended Freundlich]
+  [Langmuir]
+  [Temkin]
+  [Langmuir-Freundlich]
+  [NICA]
+compslot 2
+isomodel [NICA]
+isoselect [NICA]
+lblComp shown [Component no.  2]
+lblLk2 shown [Lk2]
+lblMA hidden [M.A.]
+lblMB hidden [M.B.*]
+lblMBnote hidden [* Leave M.B. field blank if the M.B. stoichiometry is equal to the M.A. stocihiometry]
+lblStoich(2) hidden [Stoichiometry of 2nd component]
+lbldhr shown [p]
+lstReactions shown [Other] 3
+  [FeX]
+  [a,b?]
+  [Other]
+mbfields false
+txtComp(1) shown [NICAsite1]
+txtComp(2) hidden []
+txtID shown [ 13210000]
+txtKsel shown [ 0]
+txtLk2 shown [ 0]
+txtMBstoich(1) hidden []
+txtMBstoich(2) hidden []
+txtName shown [Other]
+txtNocomp shown [ 1]
+txtSpname shown [Other]
+txtStoich(2) hidden []
+txtdhr shown [ 0]
 file f.iso
 + 501.5,"a,b?",0,1.5,0,0,2,0,0,0,0,1
 + 1,812
