@@ -184,23 +184,17 @@ class Script {
     return all + std::to_string(memory_->open_handles()) + " open";
   }
   static Call call_of(Text name) {
-    constexpr std::string_view kCalls[] = {
-        "open_read",        "create_new", "exclude_others", "read",   "write",  "flush",          "close", "status",
-        "status_of_handle", "take_over",  "without_links",  "rename", "remove", "flush_folder_of"};  // in the order of Call
+    constexpr std::string_view kCalls[] = {"open_read", "create_new",      "exclude_others",
+                                           "read",      "write",           "flush",
+                                           "close",     "status",          "status_of_handle",
+                                           "take_over", "without_links",   "rename",
+                                           "remove",    "flush_folder_of", "current_folder"};  // in the order of Call
     return static_cast<Call>(std::ranges::find(kCalls, name) - kCalls);
   }
   static std::error_code error_of(Text name) {
     const std::map<std::string, int> errors{{"EIO", EIO},     {"EACCES", EACCES}, {"EPERM", EPERM}, {"EINTR", EINTR},
                                             {"EBUSY", EBUSY}, {"ENOENT", ENOENT}, {"nothing", 0}};
     return {errors.at(name), std::generic_category()};
-  }
-  // The call fails at its nth occurrence, and is not made.
-  std::string fail(Call call, int nth, std::error_code error) {
-    watched_.before = [=, made = 0](const CallInfo& info) mutable -> std::optional<support::Instead> {
-      if (info.call != call || ++made != nth) return std::nullopt;
-      return support::Instead{error};
-    };
-    return "";
   }
   std::string made(int result) {
     EXPECT_EQ(result, 0);
@@ -285,17 +279,18 @@ class Script {
       const std::string result = told([&] { return begun_->commit(a); });
       return begun_.reset(), result;
     }
-    if (verb == "fail") return fail(call_of(a), std::stoi(first), error_of(rest));
+    if (verb == "fail") return watched_.fail(call_of(a), std::stoi(first), error_of(rest)), "";
     if (verb == "undisturbed") {
       watched_.before = [](const CallInfo&) { return std::nullopt; };
       watched_.after = [](const CallInfo&) {};
       return "";
     }
-    if (verb == "after") {
-      std::string line = b;
+    if (verb == "after" || verb == "at") {
+      std::string line = verb == "at" ? rest : b;
       if (const auto at = line.find("=="); at != line.npos) line.replace(at, 2, "=>");
-      watched_.after = [this, call = call_of(a), line](const CallInfo& info) {
-        if (info.call == call) play(line);
+      watched_.after = [this, call = call_of(a), line, each = verb == "after",
+                        n = std::atoi(first.c_str())](auto& info) mutable {
+        if (info.call == call && (--n == 0 || each)) play(line);
       };
       return "";
     }
@@ -370,6 +365,9 @@ TEST(RealDisk, FlushesReachTheSystem) {
   EXPECT_EQ(file::system().flush_folder_of("a"), std::errc::io_error);
   failing.clear();
   EXPECT_EQ(file::system().close(999), std::errc::bad_file_descriptor);
+  const std::string large = std::string(100'000, 'x') + std::string(100'000, 'y');
+  std::ofstream("large") << large;
+  EXPECT_EQ(file::read_whole(file::system(), "large", large.size()), large);
   EXPECT_EQ(::signal(SIGXFSZ, SIG_IGN), SIG_IGN) << "a limit on the size of files would end the program";
 }
 

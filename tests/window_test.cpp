@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include <cstddef>
-#include <optional>
 #include <string>
 #include <system_error>
 #include <vector>
@@ -47,10 +46,7 @@ TEST_F(Story, StartUpInAFolderThatCannotBeUsed) {
   system.add("sorptemp.dat", "x.mdb");
   for (const auto& row : rows) {
     support::WatchedSystem watched(system);
-    watched.before = [&row, made = 0](const support::CallInfo& info) mutable -> std::optional<support::Instead> {
-      if (info.call != row.call || ++made != row.nth) return std::nullopt;
-      return support::Instead{make_error_code(std::errc::permission_denied)};
-    };
+    watched.fail(row.call, row.nth, make_error_code(std::errc::permission_denied));
     Program failing(watched);
     failing.form.load();
     EXPECT_EQ(
@@ -171,19 +167,14 @@ TEST_F(Story, DatabaseThatCouldNotBeCopiedIsLeftAlone) {
   system.add("sorptemp.dat", "x.mdb");
   failing.form.load();
   failing.Select("CuX");
-  const auto fail = [&](support::Call call) {
-    watched.before = [call, made = 0](const support::CallInfo& info) mutable -> std::optional<support::Instead> {
-      if (info.call != call || ++made > 1) return std::nullopt;
-      return support::Instead{make_error_code(std::errc::io_error)};
-    };
-  };
+  const std::error_code error = make_error_code(std::errc::io_error);
   // A copy that a power cut may take back is told as that.
-  fail(support::Call::FlushFolder);
+  watched.fail(support::Call::FlushFolder, 1, error);
   failing.Choose("x.mdb.mdb");
   failing.click(cmdNewDb);
   EXPECT_TRUE(failing.LastBox().starts_with("[cannot write to the disk the folder of")) << failing.LastBox();
   failing.Select("CuX");
-  fail(support::Call::Rename);
+  watched.fail(support::Call::Rename, 1, error);
   failing.told.clear();
   failing.Choose("b.iso");
   failing.click(cmdNewDb);

@@ -42,6 +42,13 @@ class WatchedSystem final : public file::System {
   std::function<std::optional<Instead>(const CallInfo&)> before = [](const CallInfo&) { return std::nullopt; };
   std::function<void(const CallInfo&)> after = [](const CallInfo&) {};  // of calls that succeeded
 
+  // The call fails at its nth occurrence, and is not made.
+  void fail(Call call, int nth, std::error_code error) {
+    before = [=, made = 0](const CallInfo& info) mutable {
+      return info.call == call && ++made == nth ? std::optional(Instead{error}) : std::nullopt;
+    };
+  }
+
   using Error = std::error_code;
   using Path = const std::string&;
   using Handle = file::Handle;
