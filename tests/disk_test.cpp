@@ -54,6 +54,9 @@ extern "C" int flock(int fd, int operation) noexcept {
 }
 extern "C" int fchmod(int fd, mode_t mode) noexcept { return call("fchmod", SYS_fchmod, fd, mode); }
 extern "C" int fremovexattr(int fd, const char* name) noexcept { return call("fremovexattr", SYS_fremovexattr, fd, name); }
+extern "C" ssize_t listxattr(const char* path, char* names, std::size_t size) noexcept {
+  return call("listxattr", SYS_listxattr, path, names, size);
+}
 extern "C" int fsync(int fd) {
   struct stat s {};
   ::fstat(fd, &s);
@@ -170,12 +173,9 @@ class Script {
     return bytes.substr(0, got);
   }
   std::string grow(Text name, Text content) {
-    if (memory_ != nullptr) {
-      memory_->grow(name, content);
-    } else {
-      ::usleep(20000);  // longer than a tick of the file system's clock
-      std::ofstream(name, std::ios::app) << content;
-    }
+    if (memory_ != nullptr) return memory_->grow(name, content), "";
+    ::usleep(20000);  // longer than a tick of the file system's clock
+    std::ofstream(name, std::ios::app) << content;
     return "";
   }
   std::string files() {
@@ -460,10 +460,11 @@ TEST(RealDisk, WhatMattersOfOwnerGroupAndModeIsKept) {
     failing["fchmod"] = EROFS;
     EXPECT_EQ(take_over(0).value(), error);
   }
-  for (const auto& [failure, error] : {std::pair(ENODATA, 0), {ENOTSUP, 0}, {EIO, EIO}}) {
-    failing["fremovexattr"] = failure;
-    EXPECT_EQ(take_over(0).value(), error);
-  }
+  for (const char* name : {"fremovexattr", "listxattr"})
+    for (const auto& [failure, error] : {std::pair(ENOTSUP, 0), {EIO, EIO}}) {
+      failing[name] = failure;
+      EXPECT_EQ(take_over(0).value(), error);
+    }
   // Whose files may be replaced in a folder that sticks.
   const struct {
     uid_t user, owner, folder_owner;

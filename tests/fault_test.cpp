@@ -7,7 +7,6 @@
 #include <cstddef>
 #include <cstdlib>
 #include <functional>
-#include <iostream>
 #include <map>
 #include <new>
 #include <optional>
@@ -300,7 +299,6 @@ TEST(Fault, CostsNoRecord) {
       }
     }
   }
-  std::cout << faults << " faults injected\n";
   EXPECT_GT(faults, 1000);
 }
 
