@@ -56,31 +56,35 @@ void frmMaindb::cmdNewDb_Click() {
   const bool anew = was_misnamed && !misnamed && !db::leading_of(state_.open.kind).model;
   if (anew) open_database(*chosen);
   if (warning) refuse(*warning);
+  bool saved = false;
   try {
-    savedb();
+    saved = savedb();
     if (misnamed) refuse(*misnamed);
   } catch (const file::Refusal& refusal) {
     refuse(refusal.what());
   } catch (const file::Error&) {
   }
-  if (anew) Listfill();  // a save that stopped at a message has not
+  if (anew && !saved) Listfill();
 }
 
-void frmMaindb::savedb() {
+bool frmMaindb::savedb() {
   const auto species = selected_species();
   if (species.value_or("").empty() && db::trimmed(text(cboIsoterm)).empty())
-    return refuse("Please use the mouse to select the database species to be changed before saving");
+    return refuse("Please use the mouse to select the database species to be changed before saving"), false;
   for (const int required : {txtlogk, txtCharge, txtID, txtNocomp})
     if (db::trimmed(text(required)).empty())
-      return refuse("One or more required data fields have been left blank. Please complete before saving");
+      return refuse("One or more required data fields have been left blank. Please complete before saving"), false;
 
   state_.changedone = "N";
   const bool add = species && !species->empty() && *species == db::trimmed(text(txtSpname));
   if (!add && state_.open.isomodel == db::kNicaDonnan) state_.open.isoselect = db::kNicaDonnan;
-  const auto warning = edit::save(system_, state_.open, state_.compdb, {species, add, SpeciesChange(), text(txtf50)});
+  const edit::Entry entry = SpeciesChange();
+  const auto warning = add ? edit::add_species(system_, state_.open, state_.compdb, entry, text(txtf50))
+                           : edit::change_species(system_, state_.open, state_.compdb, species, entry, text(txtf50));
   if (add) Newspecdelete();
   Listfill();
   if (warning) refuse(*warning);
+  return true;
 }
 
 edit::Entry frmMaindb::SpeciesChange() const {

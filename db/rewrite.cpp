@@ -5,7 +5,6 @@
 #include "db/writer.h"
 
 namespace db {
-
 namespace {
 
 file::Refusal misplaced(const Database& database) {
@@ -23,10 +22,7 @@ std::optional<std::string> copy_to(file::System& system, const Database& databas
   if (database.misplaced && there) throw misplaced(database);
   if (file::same_place(system, path, kTemporaryFile))
     throw file::Refusal(file::named(path) + " is the temporary file of every save. Choose another name.");
-  if (file::same_place(system, database.path, kTemporaryFile))
-    throw file::Refusal(file::named(database.path) +
-                        " is the temporary file of every save, which would remove it. Copy it " +
-                        "to another name and open that.");
+  file::refuse_temporary(system, kTemporaryFile, database.path);
   return file::copy_over(system, database.path, path, spare_components(compdb));
 }
 

@@ -5,6 +5,7 @@
 #include <string_view>
 
 namespace db {
+
 std::string SpeciesReader::located_text(const std::string& reason) const {
   std::string where = file::named(fields_.name());
   if (records_ == 0) {
@@ -86,8 +87,7 @@ const Record* SpeciesReader::read_record() {
   if (!complete && id.type() == FieldType::Empty)
     refuse(
         "an empty line or field begins the record, and the file ends inside it; in a rewrite what stands there would be "
-        "lost. "
-        "Remove the empty line with a text editor");
+        "lost. Remove the empty line with a text editor");
   if (!complete) throw FieldError("the file ends inside the record");
   if (id.is_zero()) {
     end_ = id.text.empty() ? End::Empty : End::Marker;

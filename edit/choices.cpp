@@ -16,7 +16,7 @@ bool is_offered(double n, std::string_view isomodel, bool cdbfile) {
   // Surface sites and their potentials belong to complexation, the isotherm sites from 1300 on to their model.
   if (isomodel.empty() ? between(n, 1300, 1360) : between(n, 810, 860) || between(n, 1101, 1111)) return false;
   const Model& its = model(isomodel);
-  if (n > its.last || between(n, its.hidden_above, its.hidden_below)) return false;
+  if (n > its.last_offered || between(n, 1300, its.first_offered)) return false;
 
   if (n < 3 || between(n, 816, 859) || between(n, 1330, 1339) || (n >= 144 && n <= 149) || between(n, 916, 921) || n == 1104)
     return false;

@@ -11,17 +11,17 @@ const std::vector<Model>& models() {
       {.name = "Linear Kd", .logk_caption = "log Kd", .sites_alike = true},
       {.name = "Freundlich", .logk_caption = "log KF", .mb = true, .sites_alike = true},
       {.name = "Extended Freundlich", .logk_caption = "log KF", .mb = true, .sites_alike = true},
-      {.name = "Langmuir", .logk_caption = "log KL", .sites = {{"Lsite2", 1302}}, .last = 1310},
+      {.name = "Langmuir", .logk_caption = "log KL", .sites = {{"Lsite2", 1302}}, .last_offered = 1310},
       {.name = "Temkin", .logk_caption = "log KT", .site = 1331, .sites_alike = true},
       {.name = "Langmuir-Freundlich",
        .logk_caption = "log KLF",
        .sites = {{"LFsite1", 1311}, {"LFsite2", 1312}},
-       .hidden_below = 1310,
-       .last = 1320},
-      {.name = "NICA", .sites = {{"NICAsite1", 1321}, {"NICAsite2", 1322}}, .hidden_below = 1320, .last = 1340},
+       .first_offered = 1310,
+       .last_offered = 1320},
+      {.name = "NICA", .sites = {{"NICAsite1", 1321}, {"NICAsite2", 1322}}, .first_offered = 1320, .last_offered = 1340},
       {.name = db::kNicaDonnan,
        .sites = {{"FA1-", 1341}, {"FA2-", 1342}, {"HA1-", 1351}, {"HA2-", 1352}},
-       .hidden_below = 1340},
+       .first_offered = 1340},
   };
   return kModels;
 }

@@ -10,16 +10,25 @@ db::NewLeading leading(const db::Database& open, std::string_view model, std::st
   return {.model = model, .critical_f = open.blifile() ? number_rule(critical_f) : 0};
 }
 
+std::string record_of(file::System& system, const db::Database& open, const std::string& compdb, const Entry& entry) {
+  return species_record(entry, open, numbers_of(system, compdb, entry.components()));
+}
+
 }  // namespace
 
-std::optional<std::string> save(file::System& system, const db::Database& open, const std::string& compdb,
-                                const Change& change) {
-  db::Rewrite rewrite(system, open, compdb, leading(open, change.adds ? open.isomodel : open.isoselect, change.critical_f));
-  const auto put = [&] {
-    rewrite.put(species_record(change.entry, open, numbers_of(system, compdb, change.entry.components())));
-  };
-  if (change.adds) put();
-  while (rewrite.keep_until(change.adds ? std::nullopt : change.species)) put();
+std::optional<std::string> add_species(file::System& system, const db::Database& open, const std::string& compdb,
+                                       const Entry& entry, std::string_view critical_f) {
+  db::Rewrite rewrite(system, open, compdb, leading(open, open.isomodel, critical_f));
+  rewrite.put(record_of(system, open, compdb, entry));
+  rewrite.keep_until(std::nullopt);
+  return rewrite.commit();
+}
+
+std::optional<std::string> change_species(file::System& system, const db::Database& open, const std::string& compdb,
+                                          std::optional<std::string_view> name, const Entry& entry,
+                                          std::string_view critical_f) {
+  db::Rewrite rewrite(system, open, compdb, leading(open, open.isoselect, critical_f));
+  while (rewrite.keep_until(name)) rewrite.put(record_of(system, open, compdb, entry));
   return rewrite.commit();
 }
 

@@ -11,8 +11,6 @@
 namespace edit {
 namespace {
 
-constexpr double kTooLarge = std::numeric_limits<double>::infinity();
-
 // A whole number; of a very large one only some digits are written.
 double as_written(double id) {
   constexpr double kExact = 1e15;
@@ -50,7 +48,7 @@ double free_id(const IdBase& base, std::vector<double> used) {
   for (int i = 0; i < 10; ++i)
     if (is_free(exchanged + i)) return exchanged + i;
   double id = exchanged + 11;
-  while (!is_free(id)) id = std::max(id + 1, std::nextafter(id, kTooLarge));
+  while (!is_free(id)) id = std::max(id + 1, std::nextafter(id, std::numeric_limits<double>::infinity()));
   return id;
 }
 

@@ -96,9 +96,13 @@ std::optional<std::string> Replacement::commit(std::string_view content) {
          " The database holds the new content, but a power cut may bring the old one back: save it again.";
 }
 
+void refuse_temporary(System& system, const std::string& temporary, const std::string& database) {
+  if (same_place(system, temporary, database)) throw temporary_itself(temporary);
+}
+
 std::optional<std::string> copy_over(System& system, const std::string& from, const std::string& to, const Spared& spared) {
   if (same_place(system, from, to)) return std::nullopt;
-  if (same_place(system, from, to + kBeside)) throw temporary_itself(to + kBeside);
+  refuse_temporary(system, to + kBeside, from);
   Replacement replacement(system, to + kBeside, to, spared);
   Status before, after;
   require(system.status(from, Follow::Links, before), "look at", from);

@@ -1,6 +1,9 @@
 // The tables in tests/disk: what the program relies on in a file system, and what a replacement makes of it, on the real
 // disk and on the files in memory on which all tests of faults rest. "= TITLE" begins in an empty folder, "=m" one that
-// needs what only the files in memory have; below it stand operations, with "=> RESULT" where they have one.
+// needs what only the files in memory have; below it stand operations, with "=> RESULT" where they have one ("FOLDER" is the
+// folder's path). "fail CALL N ERROR" makes the Nth such call of what follows fail; "after CALL LINE" and "at CALL N LINE"
+// do something after each such call, or after the Nth; "waiting N LINE" while the program waits for the Nth time; in these
+// LINEs "==" stands for "=>".
 #include <grp.h>
 #include <gtest/gtest.h>
 #include <sys/file.h>

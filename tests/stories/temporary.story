@@ -16,7 +16,7 @@ box [Kelmar error] critical OK [the open database is the temporary file dbnamep.
 > choose new.mdb
 > click cmdNewDb
 dialog save [Sorption database files (*.MDB)|*.MDB]
-box [Kelmar error] critical OK [dbnamep.mdb is the temporary file of every save, which would remove it. Copy it to another name and open that.]
+box [Kelmar error] critical OK [the open database is the temporary file dbnamep.mdb itself. Copy it to another name and open that.]
 > choose x.mdb
 > click mnuFileOpen
 dialog open [Complexation database files (*.MDB)|*.MDB|Counterion selectivity files (*.CDB)|*.CDB|Isotherm database files (*.ISO)|*.ISO|NICA-Donnan database files (*.NIC)|*.NIC|BLM parameter files (*.BLI)|*.BLI]

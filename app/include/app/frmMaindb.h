@@ -68,7 +68,7 @@ class frmMaindb final : public ui::Form {
   void cmdSavedb_Click();
   void cmdNewDb_Click();
   void cmdDelete_Click();
-  void savedb();
+  bool savedb();  // false when it stopped at one of its messages
 
   // Controls.
   const std::string& text(int control) const { return window_[control].text; }

@@ -10,9 +10,8 @@ struct Model {
   std::string_view name;
   std::string_view logk_caption{};  // none: that of before stays
   bool mb = false;                  // M.B. stoichiometries are in use
-  // For a new species: the ID number's first number, by the first component where that is a site of its own; whether the
-  // first component's number is also the second; the component numbers that are not offered, above and below these (no
-  // more).
+  // The first number of a new ID number: that of the first component where it is one of these sites, else `site`; and
+  // whether the second number is then the first component's.
   double site = 1301;
   struct Site {
     std::string_view component;
@@ -20,7 +19,8 @@ struct Model {
   };
   std::vector<Site> sites{};
   bool sites_alike = false;
-  double hidden_above = 1300, hidden_below = 1300, last = 1e300;  // none hidden; no last
+  // Of the components above 1300, which are sites of models, those from the first to the last of these are offered.
+  double first_offered = 1300, last_offered = 1e300;
 };
 
 // In the order of the selector, but for the last, which is that of NICA-Donnan databases.

@@ -50,6 +50,9 @@ class Replacement {
   std::optional<TemporaryFile> temporary_;
 };
 
+// Throws Refusal when the open database is this temporary file, which a save would remove.
+void refuse_temporary(System& system, const std::string& temporary, const std::string& database);
+
 // Copies the whole of a file over another by a Replacement, with its result, through a temporary file beside the other;
 // onto itself it does nothing.
 [[nodiscard]] std::optional<std::string> copy_over(System& system, const std::string& from, const std::string& to,
