@@ -2,12 +2,11 @@
 // Fields are separated by commas and by line ends (CR LF, LF or CR), which mean the same. doc/file-format.md has it all.
 #pragma once
 
-#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <span>
 #include <string>
-#include <vector>
 
 #include "db/field.h"
 #include "db/format.h"
@@ -40,22 +39,22 @@ class FieldReader {
   const std::string& name() const { return input_.name(); }
 
  private:
-  // Room for what is left of the last block, for what is read, and for a line end after it that stops every search.
-  using Block = std::array<char, 120 * 1024>;
-  static constexpr std::size_t kLeastRead = 4 * 1024;  // with less room than this a new block begins
-  static_assert(sizeof(Block) > kLongestField + kLeastRead);
+  static constexpr std::size_t kBlock = 64 * 1024;  // bytes read at a time
+  static constexpr std::size_t kMostFields = 64;    // between two calls of forget(), each as long as can be
+  // Of it only what is read into takes memory.
+  static constexpr std::size_t kRoom = kMostFields * (kLongestField + kLineEnd.size()) + 3 * kBlock;
 
-  bool refill(const char*& at);
-  bool at_end();
+  bool refill();
+  bool at_end() { return next_ == end_ && !refill(); }
   bool only_blanks_left() const;
+  const char* after_separator(const char* at) const;
   bool next_of_any_kind(Field& field);
 
   file::Input input_;
-  std::vector<std::unique_ptr<Block>> blocks_;  // those that fields of this record may point into; the last is current
-  std::unique_ptr<Block> spare_;
-  const char* next_;          // the first byte that belongs to no field yet
-  const char* end_;           // after the last byte read
-  std::uint64_t offset_ = 0;  // of end_, in the file
+  std::unique_ptr<char[]> bytes_;  // a part of the file, and a line end after it that stops every search
+  const char* next_;               // the first byte that belongs to no field yet
+  const char* end_;                // after the last byte read
+  std::uint64_t offset_ = 0;       // of end_, in the file
   bool file_ended_ = false;
 };
 
