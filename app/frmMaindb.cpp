@@ -65,7 +65,7 @@ void frmMaindb::run_handler(int control) {
 }
 
 void frmMaindb::Form_Load() {
-  state_.compdb = "comp.mdb";
+  state_.open.compdb = "comp.mdb";
   std::string folder;
   std::string drive;
   try {
@@ -175,7 +175,7 @@ void frmMaindb::mnuFileOpen_Click() {
 void frmMaindb::cmdCompdb_Click() {
   const auto chosen = dialogs_.choose_file(
       {.form = ui::FileRequest::Form::Save, .filter = kComponentFilter, .folder = state_.dialog_folder});
-  if (chosen) state_.compdb = *chosen;
+  if (chosen) state_.open.compdb = *chosen;
 }
 
 void frmMaindb::cboIsoterm_Click() {

@@ -15,7 +15,7 @@
 
 #include "data.h"
 #include "db/rewrite.h"
-#include "edit/species_record.h"
+#include "edit/saving.h"
 #include "edit/suggestion.h"
 #include "support/memory_system.h"
 #include "table.h"
@@ -29,7 +29,7 @@ const char* const kComponents = "comp.mdb";
 const char* const kMillion = "million.mdb";
 const char* const kFirst4000 = "first4000.mdb";
 
-const db::Database kOpen{.path = kDatabase};
+const db::Database kOpen{.path = kDatabase, .compdb = kComponents};
 std::string content;  // of kDatabase
 
 // Into a list that is filled again and again, as that of the window.
@@ -68,7 +68,7 @@ void convert_all(benchmark::State& state) {
     db::SpeciesReader reader(file::system(), kDatabase);
     while (const db::Record* record = reader.next()) {
       for (const db::Field& field : record->head) sum += converted(field);
-      for (const db::Field& field : record->pairs.fields()) sum += converted(field);
+      for (const db::Field& field : record->pairs) sum += converted(field);
     }
     benchmark::DoNotOptimize(sum);
   }
@@ -77,7 +77,7 @@ BENCHMARK(convert_all);
 
 void click_last(benchmark::State& state) {
   db::Database open = kOpen;
-  for (auto _ : state) benchmark::DoNotOptimize(edit::show_species(file::system(), open, kComponents, "last").value());
+  for (auto _ : state) benchmark::DoNotOptimize(edit::show_species(file::system(), open, "last").value());
 }
 BENCHMARK(click_last);
 
@@ -97,15 +97,12 @@ void change(db::Rewrite& rewrite) {
                     .name = name,
                     .logk = " 2.5",
                     .dhr = "0",
-                    .ksel = "",
                     .charge = "1",
                     .nocomp = "2",
+                    .ksel = "",
                     .lk2 = std::nullopt,
-                    .rows = {}};
-  entry.rows[0] = {"1", "Comp150+2", ""};
-  entry.rows[1] = {"-1", "Comp330+2", ""};
-  while (rewrite.keep_until(name))
-    rewrite.put(edit::species_record(entry, kOpen, edit::numbers_of(file::system(), kComponents, entry.components())));
+                    .rows = {{"1", "Comp150+2", ""}, {"-1", "Comp330+2", ""}}};
+  while (rewrite.keep_until(name)) rewrite.put(edit::species_record(file::system(), kOpen, entry));
 }
 
 // Without the calls of the system that a save needs for its safety.
@@ -113,7 +110,7 @@ void save_in_memory(benchmark::State& state) {
   support::MemorySystem memory;
   memory.add(kDatabase, content);
   for (auto _ : state) {
-    db::Rewrite rewrite(memory, kOpen, kComponents, {});
+    db::Rewrite rewrite(memory, kOpen, {});
     change(rewrite);
     benchmark::DoNotOptimize(rewrite.content().data());
   }
@@ -122,7 +119,7 @@ BENCHMARK(save_in_memory);
 
 void save(benchmark::State& state) {
   for (auto _ : state) {
-    db::Rewrite rewrite(file::system(), kOpen, kComponents, {});
+    db::Rewrite rewrite(file::system(), kOpen, {});
     change(rewrite);
     benchmark::DoNotOptimize(rewrite.commit());
   }

@@ -10,7 +10,7 @@
 
 #include "app/controls.h"
 #include "db/database.h"
-#include "edit/species_record.h"
+#include "edit/display.h"
 #include "edit/suggestion.h"
 #include "file/error.h"
 #include "ui/dialogs.h"
@@ -23,10 +23,10 @@ class frmMaindb final : public ui::Form {
   frmMaindb(ui::Dialogs& dialogs, file::System& system);
 
   // What the window holds beside its controls, for the life of the program. Documented names that have no variable of their
-  // own: dbname, isomodel, isoselect, mbfields are in `open`, which tells blifile and cdbfile by its kind; compno, stoich,
-  // mbstoich, mbcompno and compname live no longer than one event; numgenerator3 is edit::numbers_of, all rows in one pass.
+  // own: dbname, compdb, isomodel, isoselect, mbfields are in `open`, which tells blifile and cdbfile by its kind; compno,
+  // stoich, mbstoich, mbcompno and compname live no longer than one event; numgenerator3 is a part of edit::species_record,
+  // all rows in one pass.
   struct State {
-    std::string compdb;         // path of the component database
     db::Database open;          // the species database
     std::string changedone;     // "N" once a save has begun: its "Y" between two records is seen by nobody
     bool suggestrun = false;    // a suggestion is running: a selection shows nothing
