@@ -52,12 +52,8 @@ void frmMaindb::show_values(const edit::Shown& shown) {
   set(txtNocomp, boxes.nocomp);
   int i = 0;
   for (const edit::Row& row : boxes.rows) {
-    ++i;
-    if (state_.open.mbfields) {
-      show({txtMBstoich(i)});
-      set(txtMBstoich(i), row.mbstoich);
-    }
-    show({lblStoich(i), txtComp(i), txtStoich(i)});
+    show_row(++i);
+    if (state_.open.mbfields) set(txtMBstoich(i), row.mbstoich);
     set(txtStoich(i), row.stoich);
     set(txtComp(i), row.comp);
   }
@@ -92,8 +88,7 @@ bool frmMaindb::refuse_ninth_component() {
 
 void frmMaindb::take_pending_component() {
   const int k = state_.compslot;
-  show({txtComp(k), txtStoich(k), lblStoich(k)});
-  if (state_.open.mbfields) show({txtMBstoich(k)});
+  show_row(k);
   set(txtComp(k), text(cboComp));
   set(txtStoich(k), text(txtStoicn));
   set(txtStoicn, "");
@@ -137,6 +132,11 @@ void frmMaindb::numgenerator2() { edit::look_up(system_, state_.open, text(txtCo
 void frmMaindb::Newspecdelete() {
   set(txtSpname, "");
   hide({txtSpname, lblAddnew, txtStoicn, lblSpname, lblComp, cboComp, cmdNextcomp, cmdSuggest, lblMAnote});
+}
+
+void frmMaindb::show_row(int i) {
+  show({lblStoich(i), txtComp(i), txtStoich(i)});
+  if (state_.open.mbfields) show({txtMBstoich(i)});
 }
 
 void frmMaindb::hide_rows() {

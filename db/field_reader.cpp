@@ -141,4 +141,15 @@ bool FieldReader::next_of_any_kind(Field& field) {
   return true;
 }
 
+std::string first_field(file::System& system, const std::string& path) {
+  FieldReader reader(system, path);
+  Field field;
+  try {
+    if (reader.next(field)) return std::string(field.text);
+  } catch (const FieldError& error) {
+    throw file::Error(file::named(path) + ": " + error.what() + ".");
+  }
+  throw file::Error(file::named(path) + " is empty.");
+}
+
 }  // namespace db

@@ -18,7 +18,7 @@
 #include <vector>
 
 #include "app/controls.h"
-#include "app/start_up.h"
+#include "app/frmMaindb.h"
 #include "db/components.h"
 #include "db/rewrite.h"
 #include "edit/models.h"

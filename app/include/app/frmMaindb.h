@@ -18,6 +18,10 @@
 
 namespace app {
 
+// Started in one of the two folders of the development environment the editor works in Kelmar's installation folder
+// instead; everywhere else in the folder it was started in.
+std::string working_folder(std::string_view current_folder);
+
 class frmMaindb final : public ui::Form {
  public:
   frmMaindb(ui::Dialogs& dialogs, file::System& system);
@@ -42,9 +46,7 @@ class frmMaindb final : public ui::Form {
   void click(int control) override;
 
  private:
-  template <typename Handler>
-  void run(Handler handler);
-  void run_handler(int control);
+  void run(void (frmMaindb::*handler)());
 
   // Start-up and the ways out (frmMaindb.cpp).
   void Form_Load();
@@ -76,6 +78,7 @@ class frmMaindb final : public ui::Form {
   void show(std::initializer_list<int> controls) { set_shown(controls, true); }
   void hide(std::initializer_list<int> controls) { set_shown(controls, false); }
   void set_shown(std::initializer_list<int> controls, bool shown);
+  void show_row(int i);
   void hide_rows();
   void empty_rows();
   void add_species(std::string name);

@@ -92,4 +92,7 @@ class FieldReader {
   bool file_ended_ = false;
 };
 
+// The first field of a file, as text. Throws file::Error, also when there is none.
+std::string first_field(file::System& system, const std::string& path);
+
 }  // namespace db
