@@ -1,5 +1,5 @@
 // The rules of formats and numbers: the tables in tests/cases. A line "OPERATION ARGUMENT | ARGUMENT => RESULT" is one case;
-// \r, \n, \t and \x1a are the characters, {trailer} the lines that end a database, {one} a record, and {x*100} a hundred x.
+// how it writes characters and long texts stands at support::plain().
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -24,7 +24,8 @@
 #include "edit/choices.h"
 #include "edit/suggestion.h"
 #include "edit/values.h"
-#include "support/story.h"
+#include "support/memory_system.h"
+#include "support/text.h"
 #include "ui/code_page.h"
 #include "ui/type_ahead.h"
 
@@ -32,35 +33,7 @@ namespace {
 
 using Arguments = std::vector<std::string>;
 using support::MemorySystem;
-
-std::string plain(std::string_view text) {
-  std::string result;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    const std::string_view rest = text.substr(i);
-    if (rest.starts_with("\\x")) {
-      result += static_cast<char>(std::stoi(std::string(rest.substr(2, 2)), nullptr, 16));
-      i += 3;
-    } else if (rest.starts_with("\\")) {
-      result += rest[1] == 'r' ? '\r' : rest[1] == 'n' ? '\n' : '\t';
-      ++i;
-    } else if (rest.starts_with("{")) {
-      std::size_t end = 0;
-      for (int depth = 1; depth > 0;) depth += rest[++end] == '{' ? 1 : rest[end] == '}' ? -1 : 0;
-      const std::string_view name = rest.substr(1, end - 1);
-      if (name == "trailer")
-        result += support::kTrailer;
-      else if (name == "one")
-        result += "1,\"a\",0,0,0,0,0,0,0,0,0,0\r\n";
-      else
-        for (int n = std::stoi(std::string(name.substr(name.rfind('*') + 1))); n > 0; --n)
-          result += plain(name.substr(0, name.rfind('*')));
-      i += name.size() + 1;
-    } else {
-      result += text[i];
-    }
-  }
-  return result;
-}
+using support::plain;
 
 std::string number_or(const std::optional<double>& value, const char* none) {
   return value ? db::format_number(*value) : none;
@@ -255,6 +228,12 @@ const std::map<std::string, std::function<std::string(const Arguments&)>> kOpera
        return text.str();
      }},
     {"folder", [](const Arguments& a) { return app::working_folder(a[0]); }},
+    {"misnamed",
+     [](const Arguments& a) {
+       db::Database open = db::database_at(a[0]);
+       open.path = a[1];
+       return db::misnamed(open).value_or("");
+     }},
     {"donnica", [](const Arguments& a) { return std::string(db::is_donnica(a[0]) ? "yes" : "no"); }},
     {"range", [](const Arguments& a) { return std::to_string(static_cast<int>(edit::range_of(std::stod(a[0])))); }},
     {"offered", offered},
@@ -291,14 +270,14 @@ TEST(Cases, ComeOutAsTabled) {
 // Wherever a block of the reader ends, the fields are the same.
 TEST(Fields, DoNotDependOnWhereABlockEnds) {
   for (const std::string tail : {"\r\n\"a,b\" x,  7  ,y", "\r\r\n,  \"q\"\r\n"}) {
-    const std::string plain = fields({tail});
-    EXPECT_EQ(fields({std::string(57342, 'z') + "," + std::string(65536, 'x') + tail}), "[57342][65536]" + plain.substr(2))
+    const std::string alone = fields({tail});
+    EXPECT_EQ(fields({std::string(57342, 'z') + "," + std::string(65536, 'x') + tail}), "[57342][65536]" + alone.substr(2))
         << "a field of the greatest length, at the end of a block";
     for (std::size_t before = 120 * 1024 - 8; before < 120 * 1024 + 4; ++before) {
       std::string text;
       while (text.size() + 9 < before) text += "12345678,";
       text.append(before - text.size(), 'z');
-      EXPECT_EQ(fields({text + tail}), fields({text}) + plain.substr(plain.starts_with("[]") ? 2 : 0)) << before;
+      EXPECT_EQ(fields({text + tail}), fields({text}) + alone.substr(alone.starts_with("[]") ? 2 : 0)) << before;
     }
   }
 }

@@ -68,15 +68,15 @@ TEST(Qt, RunsNoHandlerInsideTheMessageBoxOfAnother) {
     qt.window.close();
     EXPECT_EQ(qt.list()->selected(), 3);
   };
-  const std::string third = qt.Listed()[3], seventh = qt.Listed()[7];
-  qt.Answer(ui::Answer::Yes);
+  const std::string third = qt.reactions().entries[3], seventh = qt.reactions().entries[7];
+  qt.play("answer Yes");
   press(app::cmdDelete);
   EXPECT_EQ(boxes, 1);
   EXPECT_FALSE(qt.form.window().ended);
   EXPECT_TRUE(qt.window.isVisible());
-  EXPECT_NE(qt.Listed()[3], third);
-  EXPECT_EQ(qt.Listed()[6], seventh);
-  EXPECT_FALSE(qt.Shown(app::cboComp));
+  EXPECT_NE(qt.reactions().entries[3], third);
+  EXPECT_EQ(qt.reactions().entries[6], seventh);
+  EXPECT_FALSE(qt.form.window()[app::cboComp].shown);
 }
 
 // Dictation and screen readers change what stands in the widgets by other means than keys.
@@ -86,14 +86,14 @@ TEST(Qt, WhatIsChangedByAnyMeansCounts) {
   qt.select(3);
   QAccessible::queryAccessibleInterface(qt.edit(app::txtlogk))->setText(QAccessible::Value, "99");
   qt.settle();
-  EXPECT_EQ(qt.Text(app::txtlogk), "99");
+  EXPECT_EQ(qt.text(app::txtlogk), "99");
   qt.list()->clearSelection();
   qt.settle();
-  EXPECT_EQ(qt.form.window()[app::lstReactions].selected, 3);
+  EXPECT_EQ(qt.reactions().selected, 3);
   qt.form.window()[app::txtName].text = std::string(100000, 'n');
   qt.window.push();
   qt.settle();
-  EXPECT_EQ(qt.Text(app::txtName).size(), 100000u);
+  EXPECT_EQ(qt.text(app::txtName).size(), 100000u);
 }
 
 TEST(Qt, ListTakesEveryKeyAndEveryClick) {
@@ -104,17 +104,17 @@ TEST(Qt, ListTakesEveryKeyAndEveryClick) {
   qt.settle();
   QTest::mouseDClick(qt.list()->viewport(), Qt::LeftButton, {}, qt.middle(1));
   qt.settle();
-  EXPECT_EQ(qt.form.window()[app::lstReactions].selected, 1);
+  EXPECT_EQ(qt.reactions().selected, 1);
   // A key that chooses nothing new shows nothing again, over what was typed.
   qt.type(app::txtlogk, "7");
   for (const int key : {Qt::Key_Shift, Qt::Key_F2, Qt::Key_Left}) QTest::keyClick(qt.list(), static_cast<Qt::Key>(key));
   QTest::keyClicks(qt.list(), "~");
   qt.settle();
-  EXPECT_EQ(qt.Text(app::txtlogk), "7");
-  EXPECT_EQ(qt.form.window()[app::lstReactions].selected, 1);
+  EXPECT_EQ(qt.text(app::txtlogk), "7");
+  EXPECT_EQ(qt.reactions().selected, 1);
   QTest::keyClick(qt.list(), Qt::Key_End);
   qt.settle();
-  EXPECT_EQ(qt.Text(app::txtName), qt.Listed().back());
+  EXPECT_EQ(qt.text(app::txtName), qt.reactions().entries.back());
 }
 
 TEST(Qt, QuitAndExitCloseTheWindow) {
@@ -137,9 +137,9 @@ TEST(Qt, TypingAnEntryOfAComboBoxPicksNothing) {
   qt.window.widget(app::txtID)->setFocus();
   qt.settle();
   EXPECT_EQ(qt.form.state().open.isoselect, "Freundlich");
-  EXPECT_EQ(qt.Text(app::cboIsoterm), "Temkin");
-  EXPECT_EQ(qt.Text(app::txtlogk), "7");
-  EXPECT_EQ(qt.form.window()[app::lstReactions].selected, 2);
+  EXPECT_EQ(qt.text(app::cboIsoterm), "Temkin");
+  EXPECT_EQ(qt.text(app::txtlogk), "7");
+  EXPECT_EQ(qt.reactions().selected, 2);
   QWidget* combo = qt.window.widget(app::cboIsoterm);
   QWheelEvent wheel({5, 5}, combo->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
   combo->setFocus();
@@ -162,7 +162,7 @@ TEST(Qt, ListAlwaysShowsTheSelection) {
   qt.list()->setFocus();
   QTest::keyClick(qt.list(), Qt::Key_Down);
   qt.settle();
-  EXPECT_EQ(qt.form.window()[app::lstReactions].selected, 0);
+  EXPECT_EQ(qt.reactions().selected, 0);
   qt.select(2);
   const std::string shown = qt.state();
   const QPoint empty(viewport->width() / 2, viewport->height() - 3);
@@ -191,7 +191,7 @@ TEST(Qt, ListAlwaysShowsTheSelection) {
   EXPECT_EQ(qt.state(), shown);
   QTest::mouseClick(viewport, Qt::LeftButton, Qt::ControlModifier, qt.middle(4));
   qt.settle();
-  EXPECT_EQ(qt.form.window()[app::lstReactions].selected, 4);
+  EXPECT_EQ(qt.reactions().selected, 4);
 }
 
 TEST(Qt, ShowsNumbersFromTheirFirstDigit) {
@@ -219,10 +219,10 @@ TEST(Qt, KeysAloneReachEverything) {
   EXPECT_TRUE(list->hasFocus());
   QTest::keyClicks(list, "Fe(");
   qt.settle();
-  EXPECT_EQ(qt.Text(app::txtName), "Fe(OH)3-");
+  EXPECT_EQ(qt.text(app::txtName), "Fe(OH)3-");
   QTest::keyClick(list, Qt::Key_Down);
   qt.settle();
-  EXPECT_EQ(qt.Text(app::txtName), "FeSO4+");
+  EXPECT_EQ(qt.text(app::txtName), "FeSO4+");
   // The order of the tabulator key is that of the table, over the controls that are shown.
   std::vector<std::string> visited{"lstReactions"};
   for (int i = 0; i < app::kControls; ++i) {
@@ -241,7 +241,7 @@ TEST(Qt, KeysAloneReachEverything) {
   button->setFocus();
   QTest::keyClick(button, Qt::Key_Return);
   qt.settle();
-  EXPECT_TRUE(qt.Shown(app::cboComp));
+  EXPECT_TRUE(qt.form.window()[app::cboComp].shown);
 }
 
 TEST(Qt, TakesCharactersOfTheCodePageOnly) {
@@ -252,7 +252,7 @@ TEST(Qt, TakesCharactersOfTheCodePageOnly) {
   edit->setFocus();
   QApplication::clipboard()->setText(QString::fromUtf8("a\u20ac\u0416b\u0081\u00e9"));
   edit->paste();
-  EXPECT_EQ(qt.Text(app::txtName),
+  EXPECT_EQ(qt.text(app::txtName),
             "a\x80"
             "b\x81\xe9");
   EXPECT_EQ(QToolTip::text().toStdString(),

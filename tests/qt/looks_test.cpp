@@ -38,7 +38,7 @@ TEST(Qt, NamesBoxesByTheirLabels) {
   ASSERT_EQ(labels.size(), 1);
   EXPECT_EQ(labels[0].first->object(), qt.window.widget(app::lblIsoterm));
   EXPECT_EQ(text(app::txtName, QAccessible::Description), "");
-  qt.Choose("copper.BLI");
+  qt.play("choose copper.BLI");
   qt.click(app::mnuFileOpen);
   EXPECT_EQ(text(app::txtf50, QAccessible::Name), "Critical f value");
 }
@@ -93,7 +93,7 @@ TEST(Qt, LaysNothingOverText) {
     qt.click(app::cmdNextcomp);
     EXPECT_EQ(at(app::lblMBnote) == usual, i < 7) << i;
     for (int j = 0; j < app::kControls; ++j) {
-      if (qt.window.widget(j) == nullptr || !qt.Shown(j) || j == app::lblMBnote) continue;
+      if (qt.window.widget(j) == nullptr || !qt.form.window()[j].shown || j == app::lblMBnote) continue;
       EXPECT_LE(at(j).intersected(at(app::lblMBnote)).height(), 3) << j;
     }
     EXPECT_EQ(at(app::txtStoich(i)).height(), at(app::txtID).height());

@@ -2,6 +2,8 @@
 // somebody who does not wait.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <chrono>
 #include <filesystem>
 #include <fstream>
@@ -9,7 +11,7 @@
 #include <thread>
 
 #include "qt/qt_player.h"
-#include "support/story.h"
+#include "support/memory_system.h"
 #include "support/watched_system.h"
 
 namespace support {
@@ -25,14 +27,14 @@ struct Samples {
   WatchedSystem watched{system};
 };
 
-struct PlainSeat : Samples, Program {
-  PlainSeat() : Program(watched) {}
+struct PlainSeat : Samples, player::Player {
+  PlainSeat() : Player(watched) {}
 };
 
-struct QtSeat : Samples, WithVerbs<player::QtPlayer> {
-  QtSeat() : WithVerbs(watched) {}
+struct QtSeat : Samples, player::QtPlayer {
+  QtSeat() : QtPlayer(watched) {}
   void load() {
-    play({.kind = player::Event::Kind::Load});
+    play("load");
     settle();
   }
   void settle() { EXPECT_EQ(differences(), ""); }
