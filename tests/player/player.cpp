@@ -84,7 +84,7 @@ Outcome Player::play(const Event& event) {
   switch (event.kind) {
     case Kind::Load: do_load(); break;
     case Kind::State: break;
-    case Kind::Close: form.window().ended = true; break;
+    case Kind::Close: do_close(); break;
     case Kind::Cancel: dialogs.choices.push_back(std::nullopt); break;
     case Kind::AnswerYes: dialogs.answers.push_back(ui::Answer::Yes); break;
     case Kind::AnswerNo: dialogs.answers.push_back(ui::Answer::No); break;

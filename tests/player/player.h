@@ -67,6 +67,7 @@ class Player {
   virtual void do_pick(const Event& event);
   virtual void do_type(const Event& event) { form.window()[event.control].text = event.text; }
   virtual void do_click(const Event& event) { form.click(event.control); }
+  virtual void do_close() { form.window().ended = true; }
   virtual void after() {}  // each of these
 };
 

@@ -43,6 +43,15 @@ TEST(Qt, NamesBoxesByTheirLabels) {
   EXPECT_EQ(text(app::txtf50, QAccessible::Name), "Critical f value");
 }
 
+TEST(Qt, ListShowsTheFocusInItsFrame) {
+  QtSeat qt;
+  qt.load();
+  EXPECT_TRUE(qt.list()->hasFocus());
+  const QColor frame = qt.list()->palette().color(QPalette::WindowText);
+  qt.window.widget(app::txtID)->setFocus();
+  EXPECT_NE(qt.list()->palette().color(QPalette::WindowText), frame);
+}
+
 TEST(Qt, CutsNoCaptionAndShowsLongTextsInTooltips) {
   QtSeat qt;
   qt.load();

@@ -1,5 +1,13 @@
-// The player on real widgets, without a display: see play_script().
+// The player on real widgets, without a display: see play_script(). Besides the events of every story it plays what only
+// widgets take, and tells where the focus has gone:
+//
+//   focus NAME | key KEY | keys TEXT | mouse PLACE [Ctrl|Right|Double] | drag I I | wheel NAME | cursor NAME
+//
+// KEY as in Ctrl+A; both it and TEXT go to the focus. PLACE is an entry of the list, or "empty", below them.
+#include <QKeySequence>
+#include <QWheelEvent>
 #include <iostream>
+#include <sstream>
 #include <string_view>
 
 #include "qt/qt_player.h"
@@ -10,10 +18,58 @@ class CheckedPlayer final : public player::QtPlayer {
  public:
   using QtPlayer::QtPlayer;
 
+  bool play_other(const std::string& line) override {
+    std::istringstream words(line);
+    std::string verb, what, how;
+    words >> verb >> what >> how;
+    QWidget* const focus = QApplication::focusWidget();
+    QWidget* const viewport = list()->viewport();
+    QWidget* const widget = window.widget(player::find_control(what).value_or(app::lstReactions));
+    const auto at = [&](const std::string& place) {
+      return place == "empty" ? QPoint(viewport->width() / 2, viewport->height() - 3) : middle(std::stoi(place));
+    };
+    if (verb == "focus") {
+      widget->setFocus();
+    } else if (verb == "key") {
+      const QKeyCombination key = QKeySequence(QString::fromStdString(what))[0];
+      QTest::keyClick(focus, key.key(), key.keyboardModifiers());
+    } else if (verb == "keys") {
+      QTest::keyClicks(focus, ui::qt::from_bytes(what));
+    } else if (verb == "mouse" && how == "Double") {
+      QTest::mouseDClick(viewport, Qt::LeftButton, {}, at(what));
+    } else if (verb == "mouse") {
+      QTest::mouseClick(viewport, how == "Right" ? Qt::RightButton : Qt::LeftButton,
+                        how == "Ctrl" ? Qt::ControlModifier : Qt::NoModifier, at(what));
+    } else if (verb == "drag") {
+      QTest::mousePress(viewport, Qt::LeftButton, {}, at(what));
+      QTest::mouseMove(viewport, at(how));
+      QTest::mouseRelease(viewport, Qt::LeftButton, {}, at(how));
+    } else if (verb == "wheel") {
+      QWheelEvent wheel({5, 5}, widget->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
+      QApplication::sendEvent(widget, &wheel);
+    } else if (verb == "cursor") {
+      std::cout << "cursor " << qobject_cast<QLineEdit*>(widget)->cursorPosition() << '\n';
+    } else {
+      return false;
+    }
+    after();
+    if (QApplication::focusWidget() != focus) std::cout << "focus " << focused() << '\n';
+    return true;
+  }
+
  private:
   void after() override {
-    if (const std::string differing = window.isVisible() ? differences() : ""; !differing.empty())
+    const bool open = window.isVisible();
+    if (const std::string differing = open ? differences() : ""; !differing.empty())
       std::cout << "the widgets show something else:" << differing << '\n';
+    if (open && form.window().ended) std::cout << "the window stays open\n";
+  }
+
+  std::string focused() const {
+    for (int i = 0; i < app::kControls; ++i)
+      if (window.widget(i) != nullptr && window.widget(i) == QApplication::focusWidget())
+        return app::window_def().controls[static_cast<std::size_t>(i)].name;
+    return "nowhere";
   }
 };
 
