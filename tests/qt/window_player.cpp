@@ -2,9 +2,14 @@
 // widgets take, and tells where the focus has gone:
 //
 //   focus NAME | key KEY | keys TEXT | mouse PLACE [Ctrl|Right|Double] | drag I I | wheel NAME | cursor NAME
+//   dictate NAME TEXT | deselect | describe NAME | resize FACTOR
 //
-// KEY as in Ctrl+A; both it and TEXT go to the focus. PLACE is an entry of the list, or "empty", below them.
+// KEY as in Ctrl+A; both it and TEXT go to the focus. PLACE is an entry of the list, or "empty", below them. What is
+// dictated comes as from a screen reader, and "describe" tells what that reads, with the tooltip.
+#include <QAccessible>
+#include <QHelpEvent>
 #include <QKeySequence>
+#include <QToolTip>
 #include <QWheelEvent>
 #include <iostream>
 #include <sstream>
@@ -49,11 +54,19 @@ class CheckedPlayer final : public player::QtPlayer {
       QApplication::sendEvent(widget, &wheel);
     } else if (verb == "cursor") {
       std::cout << "cursor " << qobject_cast<QLineEdit*>(widget)->cursorPosition() << '\n';
+    } else if (verb == "dictate") {
+      QAccessible::queryAccessibleInterface(widget)->setText(QAccessible::Value, QString::fromStdString(how));
+    } else if (verb == "deselect") {
+      list()->clearSelection();
+    } else if (verb == "describe") {
+      describe(widget);
+    } else if (verb == "resize") {
+      window.resize(window.size() * std::stod(what));
     } else {
       return false;
     }
     after();
-    if (QApplication::focusWidget() != focus) std::cout << "focus " << focused() << '\n';
+    if (QApplication::focusWidget() != focus) std::cout << "focus " << name_of(QApplication::focusWidget()) << '\n';
     return true;
   }
 
@@ -63,11 +76,29 @@ class CheckedPlayer final : public player::QtPlayer {
     if (const std::string differing = open ? differences() : ""; !differing.empty())
       std::cout << "the widgets show something else:" << differing << '\n';
     if (open && form.window().ended) std::cout << "the window stays open\n";
+    for (int i = 0; open && i < app::kControls; ++i) {
+      const auto* caption = qobject_cast<ui::qt::Caption*>(window.widget(i));
+      const bool cut = caption != nullptr && caption->is_shortened() && !app::window_def().controls[i].path;
+      if (cut) std::cout << name_of(caption) << " is cut\n";
+    }
   }
 
-  std::string focused() const {
+  static void describe(QWidget* widget) {
+    QHelpEvent asked(QEvent::ToolTip, widget->rect().center(), widget->mapToGlobal(widget->rect().center()));
+    QToolTip::showText({}, "none");  // one that is hidden goes only in a while
+    QApplication::sendEvent(widget, &asked);
+    const QAccessibleInterface* const read = QAccessible::queryAccessibleInterface(widget);
+    std::cout << "name [" << read->text(QAccessible::Name).toStdString() << "] description ["
+              << read->text(QAccessible::Description).toStdString() << "] tooltip [" << QToolTip::text().toStdString()
+              << "]";
+    for (const auto& [label, relation] : read->relations(QAccessible::Label))
+      std::cout << " label [" << label->text(QAccessible::Name).toStdString() << "]";
+    std::cout << '\n';
+  }
+
+  std::string name_of(const QWidget* widget) const {
     for (int i = 0; i < app::kControls; ++i)
-      if (window.widget(i) != nullptr && window.widget(i) == QApplication::focusWidget())
+      if (window.widget(i) != nullptr && window.widget(i) == widget)
         return app::window_def().controls[static_cast<std::size_t>(i)].name;
     return "nowhere";
   }
