@@ -140,7 +140,6 @@ std::string Player::state() {
 }
 
 int play_script(Player& player, bool echo) {
-  player.dialogs.told = [](const std::string& line) { std::cout << line << '\n'; };
   if (echo) std::cout << player.state();
   for (std::string line; std::getline(std::cin, line);) {
     if (line.empty() || line.front() == '#') continue;

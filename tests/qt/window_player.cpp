@@ -11,17 +11,29 @@
 #include <QKeySequence>
 #include <QToolTip>
 #include <QWheelEvent>
+#include <chrono>
 #include <iostream>
 #include <sstream>
 #include <string_view>
+#include <thread>
 
 #include "qt/qt_player.h"
+#include "support/watched_system.h"
 
 namespace {
 
-class CheckedPlayer final : public player::QtPlayer {
+using player::Event;
+using player::QtPlayer;
+
+class CheckedPlayer final : public QtPlayer {
  public:
-  using QtPlayer::QtPlayer;
+  explicit CheckedPlayer(support::WatchedSystem& disk) : QtPlayer(disk), disk_(disk) {
+    dialogs.told = [this](const std::string& line) {
+      std::cout << line << '\n';
+      for (const std::string& event : std::exchange(asked_, {}))
+        if (!play_other(event)) play(event);
+    };
+  }
 
   bool play_other(const std::string& line) override {
     std::istringstream words(line);
@@ -56,8 +68,20 @@ class CheckedPlayer final : public player::QtPlayer {
       std::cout << "cursor " << qobject_cast<QLineEdit*>(widget)->cursorPosition() << '\n';
     } else if (verb == "dictate") {
       QAccessible::queryAccessibleInterface(widget)->setText(QAccessible::Value, QString::fromStdString(how));
-    } else if (verb == "deselect") {
-      list()->clearSelection();
+    } else if (verb == "current") {
+      list()->setCurrentIndex(list()->model()->index(std::stoi(what), 0));
+    } else if (verb == "press") {
+      qobject_cast<QPushButton*>(widget)->click();
+    } else if (verb == "asked") {
+      asked_.push_back(line.substr(6));
+    } else if (verb == "haste") {
+      disk_.before = [](const support::CallInfo& info) {
+        if (info.call == support::Call::OpenRead) std::this_thread::sleep_for(std::chrono::milliseconds(2));
+        return std::nullopt;
+      };
+      hasty_ = true;
+    } else if (verb == "settle") {
+      hasty_ = false;
     } else if (verb == "describe") {
       describe(widget);
     } else if (verb == "resize") {
@@ -71,8 +95,33 @@ class CheckedPlayer final : public player::QtPlayer {
   }
 
  private:
+  void do_select(const Event& event) override {
+    hasty_ ? post_click(list()->viewport(), middle(event.entry)) : QtPlayer::do_select(event);
+  }
+  void do_click(const Event& event) override {
+    QWidget* const button = window.widget(event.control);
+    hasty_ ? post_click(button, button->rect().center()) : QtPlayer::do_click(event);
+  }
+  void do_pick(const Event& event) override {
+    hasty_ ? post_key(window.widget(event.control), Qt::Key_Down) : QtPlayer::do_pick(event);
+  }
+  void do_type(const Event& event) override {
+    if (!hasty_) return QtPlayer::do_type(event);
+    post_key(edit(event.control), Qt::Key_A, Qt::ControlModifier);
+    for (const QChar character : ui::qt::from_bytes(event.text)) post_key(edit(event.control), 0, {}, character);
+  }
+  static void post_click(QWidget* widget, const QPoint& at) {
+    for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease})
+      QApplication::postEvent(widget, new QMouseEvent(type, at, widget->mapToGlobal(at), Qt::LeftButton,
+                                                      type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, {}));
+  }
+  static void post_key(QWidget* widget, int key, Qt::KeyboardModifiers modifiers = {}, const QString& text = {}) {
+    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease})
+      QApplication::postEvent(widget, new QKeyEvent(type, key, modifiers, text));
+  }
+
   void after() override {
-    const bool open = window.isVisible();
+    const bool open = window.isVisible() && !hasty_;
     if (const std::string differing = open ? differences() : ""; !differing.empty())
       std::cout << "the widgets show something else:" << differing << '\n';
     if (open && form.window().ended) std::cout << "the window stays open\n";
@@ -102,6 +151,10 @@ class CheckedPlayer final : public player::QtPlayer {
         return app::window_def().controls[static_cast<std::size_t>(i)].name;
     return "nowhere";
   }
+
+  support::WatchedSystem& disk_;
+  std::vector<std::string> asked_;
+  bool hasty_ = false;
 };
 
 }  // namespace
@@ -109,6 +162,7 @@ class CheckedPlayer final : public player::QtPlayer {
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   const QApplication application(argc, argv);
-  CheckedPlayer player(file::system());
+  support::WatchedSystem disk(file::system());
+  CheckedPlayer player(disk);
   return player::play_script(player, argc > 1 && argv[1] == std::string_view("--echo"));
 }

@@ -68,7 +68,7 @@ txtStoich(1) shown [ 1]
 txtdhr hidden [  0]
 txtlogk shown [  1.5]
 > dictate txtlogk 99
-> deselect
+> current -1
 > state
 txtlogk shown [99]
 > resize 1.6
