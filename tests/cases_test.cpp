@@ -214,7 +214,7 @@ const std::map<std::string, std::function<std::string(const Arguments&)>> kOpera
     {"folder", [](const Arguments& a) { return app::working_folder(a[0]); }},
     {"misnamed",
      [](const Arguments& a) {
-       db::Database open = db::database_at(a[0]);
+       db::Database open = opened(a[0]);
        open.path = a[1];
        return db::misnamed(open).value_or("");
      }},

@@ -222,6 +222,11 @@ TEST(Fault, OfMemoryLeavesAWholeDatabaseAndIsTold) {
         allocations_left = -1;
         if (!reached) break;
         attempt.check(usual.memory.all(), !once);
+        if (attempt.program.told == usual.program.told) {  // a sort can do without
+          EXPECT_EQ(attempt.memory.all(), usual.memory.all());
+          EXPECT_EQ(attempt.program.form.window()[app::txtID].text, usual.program.form.window()[app::txtID].text);
+          continue;
+        }
         EXPECT_EQ(attempt.program.told.back(),
                   "box [Kelmar error] critical OK [There is not enough memory to go on. The database holds the whole change "
                   "or nothing of it: open it again and look.]");

@@ -15,11 +15,6 @@
 namespace db {
 
 // The surface sites, which bear these names in the window whatever the component database calls them.
-struct Site {
-  double number;
-  std::string_view name;
-};
-inline constexpr Site kSites[] = {{812, "=SOH"}, {816, "=S3O"}, {811, "=SOHh"}};
 std::optional<std::string_view> site_name(double number);
 std::optional<double> site_number(std::string_view name);
 
