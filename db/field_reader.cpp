@@ -42,8 +42,8 @@ const char* find(const Table& table, const char* at) {
 
 }  // namespace
 
-FieldReader::FieldReader(file::System& system, const std::string& path, std::string name)
-    : input_(system, path, std::move(name)),
+FieldReader::FieldReader(file::System& system, const std::string& path, const std::string& name)
+    : input_(system, path, name),
       bytes_(std::make_unique_for_overwrite<char[]>(kRoom)),
       next_(bytes_.get()),
       end_(next_) {
@@ -146,7 +146,7 @@ bool FieldReader::next_of_any_kind(Field& field) {
 }
 
 std::string first_field(file::System& system, const std::string& path) {
-  FieldReader reader(system, path);
+  FieldReader reader(system, path, path);
   Field field;
   try {
     if (reader.next(field)) return std::string(field.text);

@@ -22,8 +22,8 @@
 #include "db/components.h"
 #include "db/rewrite.h"
 #include "edit/models.h"
+#include "edit/saving.h"
 #include "edit/suggestion.h"
-#include "edit/values.h"
 #include "support/memory_system.h"
 #include "support/text.h"
 #include "ui/code_page.h"
@@ -46,7 +46,7 @@ std::string number_or(const std::optional<double>& value, const char* none) {
 std::string fields(const Arguments& arguments) {
   MemorySystem system;
   system.add("x", arguments[0]);
-  db::FieldReader reader(system, "x");
+  db::FieldReader reader(system, "x", "x");
   std::string all;
   for (db::Field field; reader.next(std::span(&field, 1));) {
     const std::string mark = field.quoted ? "\"" : "";

@@ -25,7 +25,7 @@ struct Component {
 // Reads the records of a component database one by one, at most `limit` of them. Throws file::Error.
 class ComponentReader {
  public:
-  ComponentReader(file::System& system, const std::string& path, int limit) : fields_(system, path), limit_(limit) {}
+  ComponentReader(file::System& system, const std::string& path, int limit) : fields_(system, path, path), limit_(limit) {}
 
   // False at the end. The views hold until the next call.
   bool next(Component& component);

@@ -56,8 +56,7 @@ class FieldError : public file::Error {
 class FieldReader {
  public:
   // Throws file::Error when the file cannot be opened; messages call it `name`.
-  FieldReader(file::System& system, const std::string& path) : FieldReader(system, path, path) {}
-  FieldReader(file::System& system, const std::string& path, std::string name);
+  FieldReader(file::System& system, const std::string& path, const std::string& name);
 
   // Begins a record; false at the end of the file, where nothing is left but blank fields and at most one Ctrl-Z, the end
   // mark of old text editors. Forgets the fields read before.

@@ -50,8 +50,8 @@ class SpeciesReader {
   enum class End { None, Marker, Empty, File, Limit };
 
   // Throws file::Error, like every function here: what is wrong, in which file and record.
-  SpeciesReader(file::System& system, const std::string& path) : fields_(system, path) {}
-  SpeciesReader(file::System& system, const std::string& path, std::string name) : fields_(system, path, std::move(name)) {}
+  SpeciesReader(file::System& system, const std::string& path) : SpeciesReader(system, path, path) {}
+  SpeciesReader(file::System& system, const std::string& path, const std::string& name) : fields_(system, path, name) {}
 
   // Reads the fields before the first record. A critical f value that is text is refused.
   LeadingFields read_leading(Leading leading);
