@@ -19,13 +19,8 @@
 #include <optional>
 #include <string>
 
+namespace ui::qt {
 namespace {
-
-using ui::Answer;
-using ui::Buttons;
-using ui::FileRequest;
-using ui::Icon;
-using ui::qt::QtDialogs;
 
 class QtDialog : public testing::Test {
  protected:
@@ -138,6 +133,7 @@ TEST_F(QtDialog, FileToWriteGetsTheExtensionAndIsReplacedOnlyWhenTheUserSaysSo) 
 }
 
 }  // namespace
+}  // namespace ui::qt
 
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
