@@ -14,7 +14,6 @@
 #include <random>
 #include <sstream>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "app/controls.h"

@@ -27,7 +27,6 @@
 #include <optional>
 #include <sstream>
 #include <string>
-#include <string_view>
 #include <system_error>
 #include <utility>
 

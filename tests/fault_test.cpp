@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdlib>
-#include <functional>
 #include <map>
 #include <new>
 #include <optional>

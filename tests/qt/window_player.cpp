@@ -68,6 +68,10 @@ class CheckedPlayer final : public QtPlayer {
       std::cout << "cursor " << qobject_cast<QLineEdit*>(widget)->cursorPosition() << '\n';
     } else if (verb == "dictate") {
       QAccessible::queryAccessibleInterface(widget)->setText(QAccessible::Value, QString::fromStdString(how));
+    } else if (verb == "dialog") {
+      std::string text;
+      std::getline(words >> std::ws, text);
+      player::play_dialog(&window, what, text, QString::fromStdString(how));
     } else if (verb == "current") {
       list()->setCurrentIndex(list()->model()->index(std::stoi(what), 0));
     } else if (verb == "press") {
