@@ -7,6 +7,7 @@
 // KEY as in Ctrl+A; both it and TEXT go to the focus. PLACE is an entry of the list, or "empty", below them. What is
 // dictated comes as from a screen reader, and "describe" tells what that reads, with the tooltip.
 #include <QAccessible>
+#include <QClipboard>
 #include <QHelpEvent>
 #include <QKeySequence>
 #include <QToolTip>
@@ -52,6 +53,10 @@ class CheckedPlayer final : public QtPlayer {
       QTest::keyClick(focus, key.key(), key.keyboardModifiers());
     } else if (verb == "keys") {
       QTest::keyClicks(focus, ui::qt::from_bytes(what));
+    } else if (verb == "paste") {
+      QApplication::clipboard()->setText(QString::fromStdString(what));
+      qobject_cast<QLineEdit*>(focus)->paste();
+      std::cout << "tooltip [" << QToolTip::text().toStdString() << "]\n";
     } else if (verb == "mouse" && how == "Double") {
       QTest::mouseDClick(viewport, Qt::LeftButton, {}, at(what));
     } else if (verb == "mouse") {
