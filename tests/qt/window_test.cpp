@@ -2,14 +2,12 @@
 #include <gtest/gtest.h>
 
 #include <QTimer>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <memory>
 #include <string>
 
 #include "qt/qt_player.h"
 #include "support/memory_system.h"
+#include "support/text.h"
 #include "ui/backend.h"
 
 namespace {
@@ -37,15 +35,13 @@ struct Application {
   QApplication application{count, names};
 };
 
-// A program in real widgets, on the samples in memory.
+// A program in real widgets, with an isotherm database.
 struct QtSeat : Application, support::MemorySystem, player::QtPlayer {
   QtSeat() : QtPlayer(static_cast<MemorySystem&>(*this)) {
-    for (const auto& entry : std::filesystem::directory_iterator(SAMPLES)) {
-      std::ifstream file(entry.path(), std::ios::binary);
-      add(entry.path().filename().string(), {std::istreambuf_iterator<char>(file), {}});
-    }
-  }
-  void load() {
+    add("dabase.txt", "C");
+    add("comp.mdb", support::kComponents);
+    add("sorptemp.dat", "x.iso");
+    add("x.iso", "\"Freundlich\"\r\n" + support::kTrailer);
     play("load");
     settle();
   }
@@ -54,7 +50,6 @@ struct QtSeat : Application, support::MemorySystem, player::QtPlayer {
 
 TEST(Qt, CutsNoTextAndKeepsEveryByte) {
   QtSeat qt;
-  qt.load();
   qt.form.window()[app::txtName].text = std::string(100000, 'n');
   qt.window.push();
   qt.settle();
@@ -68,7 +63,6 @@ TEST(Qt, CutsNoTextAndKeepsEveryByte) {
 
 TEST(Qt, ListShowsTheFocusInItsFrame) {
   QtSeat qt;
-  qt.load();
   EXPECT_TRUE(qt.list()->hasFocus());
   const QColor frame = qt.list()->palette().color(QPalette::WindowText);
   qt.window.widget(app::txtID)->setFocus();
@@ -77,7 +71,6 @@ TEST(Qt, ListShowsTheFocusInItsFrame) {
 
 TEST(Qt, ShortensAPathInItsMiddleAndACaptionAtItsEnd) {
   QtSeat qt;
-  qt.load();
   const auto picture = [&](int control, const std::string& text) {
     qt.form.window()[control].text = text;
     qt.window.push();
@@ -97,8 +90,6 @@ TEST(Qt, ShortensAPathInItsMiddleAndACaptionAtItsEnd) {
 // The note about M.B. stoichiometries gives way to the rows that lie over it; boxes above one another are alike.
 TEST(Qt, LaysNothingOverText) {
   QtSeat qt;
-  qt.add("sorptemp.dat", "freundl.ISO");
-  qt.load();
   qt.click(app::cmdAddnew);
   const auto at = [&](int control) { return qt.window.widget(control)->geometry(); };
   const QRect usual = at(app::lblMBnote);
