@@ -124,15 +124,15 @@ void frmMaindb::Listfill() {
     set(lblLogk, "log K");
     hide({lblMA, lblMB, lblMBnote});
   }
-  if (!listing.led && db::leading_of(by_name).model) return;
+  if (!listing.led && db::leading_of(by_name) == db::Leading::Model) return;
   if (isotherm) {
-    show_model(*listing.leading.model);
+    show_model(listing.leading.model);
   } else if (state_.open.blifile()) {
     show({txtf50, lblIsoterm, lblKsel, txtKsel});
     set(lblIsoterm, "Critical f value");
     set(lblKsel, "Contributes to toxicity");
   }
-  if (listing.leading.blm) set(txtf50, db::numtext(listing.leading.blm->critical_f));
+  if (listing.leading.which == db::Leading::Blm) set(txtf50, db::numtext(listing.leading.critical_f));
   list.entries = std::move(listing.names);
 }
 

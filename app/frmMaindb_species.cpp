@@ -171,7 +171,7 @@ void frmMaindb::cmdNewDb_Click() {
   const auto misnamed = db::misnamed(state_.open);
   set(lblNameDb, *chosen);
   // What was shown under a wrong name goes with it.
-  const bool anew = was_misnamed && !misnamed && !db::leading_of(state_.open.kind).model;
+  const bool anew = was_misnamed && !misnamed && db::leading_of(state_.open.kind) != db::Leading::Model;
   if (anew) open_database(*chosen);
   if (warning) refuse(*warning);
   bool saved = false;

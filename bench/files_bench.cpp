@@ -110,7 +110,7 @@ void save_in_memory(benchmark::State& state) {
   support::MemorySystem memory;
   memory.add(kDatabase, content);
   for (auto _ : state) {
-    db::Rewrite rewrite(memory, kOpen, {});
+    db::Rewrite rewrite(memory, kOpen, "", 0);
     change(rewrite);
     benchmark::DoNotOptimize(rewrite.content().data());
   }
@@ -119,7 +119,7 @@ BENCHMARK(save_in_memory);
 
 void save(benchmark::State& state) {
   for (auto _ : state) {
-    db::Rewrite rewrite(file::system(), kOpen, {});
+    db::Rewrite rewrite(file::system(), kOpen, "", 0);
     change(rewrite);
     benchmark::DoNotOptimize(rewrite.commit());
   }

@@ -86,13 +86,11 @@ void append_record(std::string& out, const Record& record) {
 }
 
 void append_leading(std::string& out, const LeadingFields& fields) {
-  if (fields.model && fields.model_is_empty)
-    LineWriter(out).field({}).end();
-  else if (fields.model)
-    LineWriter(out).text(*fields.model).end();
-  if (!fields.blm) return;
-  LineWriter(out).text(fields.blm->description).end();
-  LineWriter(out).text(fields.blm->label).number(fields.blm->critical_f).end();
+  LineWriter line(out);
+  if (fields.which == Leading::Model) (fields.model_is_empty ? line.field({}) : line.text(fields.model)).end();
+  if (fields.which != Leading::Blm) return;
+  line.text(fields.description).end();
+  LineWriter(out).text(fields.label).number(fields.critical_f).end();
 }
 
 std::optional<std::string> misnamed(const Database& open) {
@@ -114,7 +112,7 @@ std::optional<std::string> copy_to(file::System& system, const Database& open, c
   return file::copy_over(system, open.path, path, spared(open));
 }
 
-Rewrite::Rewrite(file::System& system, const Database& open, const NewLeading& leading)
+Rewrite::Rewrite(file::System& system, const Database& open, std::string_view model, double critical_f)
     : replacement_(system, kTemporaryFile, open.path, spared(open)),
       reader_(system, replacement_.path(), open.path),
       name_(file::named(open.path)) {
@@ -124,11 +122,11 @@ Rewrite::Rewrite(file::System& system, const Database& open, const NewLeading& l
   LeadingFields fields = reader_.read_leading(leading_of(open.kind));
   if (fields.begins_with_number) refuse_kind("a number stands in the place of the first text");
   no_model_ = fields.model_is_empty;
-  if (fields.model && !leading.model.empty()) {
-    fields.model = leading.model;
+  if (!model.empty()) {
+    fields.model = model;
     fields.model_is_empty = false;
   }
-  if (fields.blm) fields.blm->critical_f = leading.critical_f;
+  fields.critical_f = critical_f;
   append_leading(out_, fields);
 }
 

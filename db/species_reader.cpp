@@ -34,20 +34,22 @@ void SpeciesReader::require(std::span<Field> fields) {
 
 LeadingFields SpeciesReader::read_leading(Leading leading) {
   return located([&] {
-    LeadingFields read;
+    LeadingFields read{.which = leading};
     std::array<Field, 3> fields;
-    if (leading.model) {
+    if (leading == Leading::Model) {
       require(std::span(fields).first(1));
       read.model = fields[0].text;
       read.model_is_empty = fields[0].type() == FieldType::Empty;
     }
-    if (leading.blm) {
+    if (leading == Leading::Blm) {
       require(fields);
       const auto critical_f = fields[2].number();
       if (!critical_f)
         refuse("the critical f value is \"" + file::named(fields[2].text) +
                "\", not a number. Mend the file with a text editor");
-      read.blm = {std::string(fields[0].text), std::string(fields[1].text), *critical_f};
+      read.description = fields[0].text;
+      read.label = fields[1].text;
+      read.critical_f = *critical_f;
     }
     read.begins_with_number = fields[0].type() == FieldType::Number;
     return read;

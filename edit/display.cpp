@@ -87,7 +87,8 @@ IdRange range_of(double id) {
 
 std::optional<Shown> show_species(file::System& system, db::Database& open, std::string_view name) {
   db::SpeciesReader reader(system, open.path);
-  if (const auto read = reader.read_leading(db::leading_by_name(open)); read.model) open.isomodel = *read.model;
+  if (const auto read = reader.read_leading(db::leading_by_name(open)); read.which == db::Leading::Model)
+    open.isomodel = read.model;
   while (const db::Record* record = reader.next())
     if (record->name() == name) return shown_of(system, open, reader, *record);
   return std::nullopt;

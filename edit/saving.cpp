@@ -77,8 +77,8 @@ std::vector<std::optional<double>> numbers_of(file::System& system, const std::s
   return numbers;
 }
 
-db::NewLeading leading(const db::Database& open, std::string_view model, std::string_view critical_f) {
-  return {.model = model, .critical_f = open.blifile() ? number_rule(critical_f) : 0};
+db::Rewrite begin(file::System& system, const db::Database& open, std::string_view model, std::string_view critical_f) {
+  return {system, open, model, open.blifile() ? number_rule(critical_f) : 0};
 }
 
 }  // namespace
@@ -138,7 +138,7 @@ std::string species_record(file::System& system, const db::Database& open, const
 
 std::optional<std::string> add_species(file::System& system, const db::Database& open, const Entry& entry,
                                        std::string_view critical_f) {
-  db::Rewrite rewrite(system, open, leading(open, open.isomodel, critical_f));
+  db::Rewrite rewrite = begin(system, open, open.isomodel, critical_f);
   rewrite.put(species_record(system, open, entry));
   rewrite.keep_until(std::nullopt);
   return rewrite.commit();
@@ -147,14 +147,14 @@ std::optional<std::string> add_species(file::System& system, const db::Database&
 std::optional<std::string> change_species(file::System& system, const db::Database& open,
                                           std::optional<std::string_view> name, const Entry& entry,
                                           std::string_view critical_f) {
-  db::Rewrite rewrite(system, open, leading(open, open.isoselect, critical_f));
+  db::Rewrite rewrite = begin(system, open, open.isoselect, critical_f);
   while (rewrite.keep_until(name)) rewrite.put(species_record(system, open, entry));
   return rewrite.commit();
 }
 
 std::optional<std::string> delete_species(file::System& system, const db::Database& open, std::string_view name,
                                           std::string_view critical_f) {
-  db::Rewrite rewrite(system, open, leading(open, open.isomodel, critical_f));
+  db::Rewrite rewrite = begin(system, open, open.isomodel, critical_f);
   while (rewrite.keep_until(name)) {
   }
   return rewrite.commit();

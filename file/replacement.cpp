@@ -28,6 +28,12 @@ bool is_denied(std::error_code error) {
   return error == std::errc::permission_denied || error == std::errc::operation_not_permitted;
 }
 
+Status look_at(System& system, const std::string& path, Follow follow) {
+  Status status;
+  require(system.status(path, follow, status), "look at", path);
+  return status;
+}
+
 // Tries for about a second, until an attempt is true.
 template <typename Attempt>
 bool patiently(System& system, Attempt attempt) {
@@ -43,9 +49,7 @@ bool patiently(System& system, Attempt attempt) {
 }  // namespace
 
 bool same_place(System& system, const std::string& one, const std::string& other) {
-  Status ours, theirs;
-  require(system.status(one, Follow::Links, ours), "look at", one);
-  require(system.status(other, Follow::Links, theirs), "look at", other);
+  const Status ours = look_at(system, one, Follow::Links), theirs = look_at(system, other, Follow::Links);
   if (ours.type != Type::Missing || theirs.type != Type::Missing) return ours.same_file(theirs);
   std::string folder;
   require(system.current_folder(folder), "find", one);
@@ -81,8 +85,7 @@ TemporaryFile::~TemporaryFile() {
 // False while another editor has the name. The file is never opened through a link and never emptied: what lies under the
 // name may be somebody's only copy under another name.
 bool TemporaryFile::claim(Access access) {
-  Status present;
-  require(system_.status(path_, Follow::Nothing, present), "look at", path_);
+  const Status present = look_at(system_, path_, Follow::Nothing);
   if (present.type != Type::Missing && present.type != Type::Plain)
     throw Refusal(named(path_) + " is in the way: it is not a plain file. Remove it and try again.");
   if (present.type == Type::Plain && !remove_leftover()) return false;
@@ -170,20 +173,19 @@ Replacement::Replacement(System& system, const std::string& temporary, const std
       exclusion_(system) {
   refuse_spared(system_, target, spared_);
   // Without the links: renaming over a link would replace the link and leave the database itself as it was.
-  Status present;
-  require(system_.status(target, Follow::Nothing, present), "look at", target);
-  if (present.type != Type::Missing) require(system_.without_links(target, target_), "find", target);
+  if (look_at(system_, target, Follow::Nothing).type != Type::Missing)
+    require(system_.without_links(target, target_), "find", target);
   look_at_target();
   // Others are kept out before the database is read, or of two savings the second would lose the first.
   if (before_.type == Type::Plain) exclude_others();
   // The target under the temporary name would be taken for a leftover and removed.
-  require(system_.status(temporary, Follow::Nothing, present), "look at", temporary);
-  if (present.same_file(before_) || temporary == target) throw temporary_itself(temporary);
+  if (look_at(system_, temporary, Follow::Nothing).same_file(before_) || temporary == target)
+    throw temporary_itself(temporary);
   temporary_.emplace(system_, temporary, access(), spared_);
 }
 
 void Replacement::look_at_target() {
-  require(system_.status(target_, Follow::Nothing, before_), "look at", target_);
+  before_ = look_at(system_, target_, Follow::Nothing);
   if (before_.type == Type::Missing) return;
   if (before_.type != Type::Plain) throw Refusal(named(name_) + " is not a plain file. Choose another name.");
   if (!before_.writable) throw Refusal(named(name_) + " is read-only. Make it writable or save to a new database.");
@@ -207,9 +209,7 @@ void Replacement::exclude_others() {
 std::error_code Replacement::try_rename(std::string_view content) {
   temporary_->write(content, before_.type == Type::Missing ? nullptr : &target_);
   // Another program, which knows nothing of this one, may have changed the database since it was read, or a link to it.
-  Status now;
-  require(system_.status(name_, Follow::Links, now), "look at", name_);
-  if (!now.same_content(before_))
+  if (!look_at(system_, name_, Follow::Links).same_content(before_))
     throw Refusal(named(name_) + " was changed by another program while it was being saved, and is left as that made it. " +
                   "Show the species again and repeat the change.");
   // The one step that replaces: before it the path holds the whole old content, after it the whole new one, and there is no
@@ -242,11 +242,9 @@ std::optional<std::string> copy_over(System& system, const std::string& from, co
   if (same_place(system, from, to)) return std::nullopt;
   refuse_temporary(system, to + kBeside, from);
   Replacement replacement(system, to + kBeside, to, spared);
-  Status before, after;
-  require(system.status(from, Follow::Links, before), "look at", from);
+  const Status before = look_at(system, from, Follow::Links);
   const std::string content = read_whole(system, from, kLargestDatabase);
-  require(system.status(from, Follow::Links, after), "look at", from);
-  if (!after.same_content(before))
+  if (!look_at(system, from, Follow::Links).same_content(before))
     throw Refusal(named(from) + " was changed by another program while it was being copied. Try again.");
   return replacement.commit(content);
 }

@@ -10,13 +10,13 @@
 namespace {
 
 // Every record written unchanged, and whether the list was read to its end.
-std::string copy(std::string_view bytes, std::size_t piece, bool model, bool blm, bool& whole) {
+std::string copy(std::string_view bytes, std::size_t piece, db::Leading leading, bool& whole) {
   fuzz::BytesSystem system(bytes, piece);
   std::string out;
   whole = false;
   try {
     db::SpeciesReader reader(system, "x.mdb");
-    db::append_leading(out, reader.read_leading({.model = model, .blm = blm}));
+    db::append_leading(out, reader.read_leading(leading));
     while (const db::Record* record = reader.next()) db::append_record(out, *record);
     whole = true;
   } catch (const file::Error&) {
@@ -41,13 +41,13 @@ std::string stretched(std::string_view bytes) {
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
   if (size == 0) return 0;
-  const bool model = data[0] & 1, blm = data[0] & 2;
+  const auto leading = static_cast<db::Leading>(data[0] % 4 % 3);
   const std::size_t piece = data[0] & 4 ? 7 : 65536;
   const std::string bytes = stretched({reinterpret_cast<const char*>(data) + 1, size - 1});
   bool whole = false, again_whole = false;
-  const std::string once = copy(bytes, piece, model, blm, whole);
-  fuzz::require(copy(bytes, 65536, model, blm, again_whole) == once && again_whole == whole);
-  const std::string twice = copy(once, piece, model, blm, again_whole);
+  const std::string once = copy(bytes, piece, leading, whole);
+  fuzz::require(copy(bytes, 65536, leading, again_whole) == once && again_whole == whole);
+  const std::string twice = copy(once, piece, leading, again_whole);
   if (whole) fuzz::require(twice == once && again_whole);
   return 0;
 }

@@ -61,7 +61,7 @@ std::string rewrite(const Arguments& arguments) {
   system.add(name, content);
   try {
     const std::string model = arguments.size() > 2 ? arguments[2] : "";
-    db::Rewrite rewrite(system, opened(name), {.model = model, .critical_f = .5});
+    db::Rewrite rewrite(system, opened(name), model, .5);
     EXPECT_FALSE(rewrite.keep_until(std::nullopt));
     EXPECT_EQ(rewrite.commit(), std::nullopt);
   } catch (const file::Error&) {

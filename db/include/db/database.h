@@ -47,18 +47,17 @@ struct Database {
   bool cdbfile() const { return kind == Kind::Counterion; }
 };
 
-// Which fields stand before the first record: the isotherm model (or "NICA-Donnan"); two texts and the critical f value.
-struct Leading {
-  bool model = false, blm = false;
-};
+// Which fields stand before the first record: the isotherm model (or "NICA-Donnan"), or two texts and the critical f value.
+enum class Leading { None, Model, Blm };
 constexpr Leading leading_of(Kind kind) {
-  return {.model = kind == Kind::Isotherm || kind == Kind::NicaDonnan, .blm = kind == Kind::Blm};
+  if (kind == Kind::Blm) return Leading::Blm;
+  return kind == Kind::Isotherm || kind == Kind::NicaDonnan ? Leading::Model : Leading::None;
 }
 // As a database is loaded, shown and searched: an isotherm or NICA-Donnan database is told by its name, a BLM parameter
 // database by the kind held.
 inline Leading leading_by_name(const Database& open) {
-  const bool model = leading_of(kind_of(open.path)).model;
-  return {.model = model, .blm = !model && open.blifile()};
+  if (leading_of(kind_of(open.path)) == Leading::Model) return Leading::Model;
+  return open.blifile() ? Leading::Blm : Leading::None;
 }
 
 }  // namespace db

@@ -35,12 +35,6 @@ void append_leading(std::string& out, const LeadingFields& fields);
 
 inline constexpr const char* kTemporaryFile = "dbnamep.mdb";  // in the working folder, during a rewrite only
 
-// What is written in place of the leading fields that are read.
-struct NewLeading {
-  std::string_view model;  // empty: the one in the file stays
-  double critical_f = 0;
-};
-
 // Copies the open database to a new path, with the result of file::copy_over. Throws file::Refusal or file::Error.
 [[nodiscard]] std::optional<std::string> copy_to(file::System& system, const Database& open, const std::string& path);
 
@@ -51,9 +45,10 @@ std::optional<std::string> misnamed(const Database& open);
 // takes the place of the file in one step (file/replacement.h).
 class Rewrite {
  public:
-  // Begins with the leading fields of the kind held, whatever the path says. Throws file::Refusal or file::Error when the
-  // database cannot be replaced or read.
-  Rewrite(file::System& system, const Database& open, const NewLeading& leading);
+  // Begins with the leading fields of the kind held, whatever the path says, with this model (an empty one leaves that of
+  // the file) or this critical f value in their place. Throws file::Refusal or file::Error when the database cannot be
+  // replaced or read.
+  Rewrite(file::System& system, const Database& open, std::string_view model, double critical_f);
 
   // Copies old records as they are up to the next one of this name, which is left out; false at the end of the list, and
   // without a name. Throws file::Error.

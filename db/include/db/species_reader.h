@@ -31,16 +31,13 @@ struct Record {
   std::string_view name() const { return head[kName].text; }
 };
 
-struct BlmFields {
-  std::string description, label;  // no meaning here; kept as they are
-  double critical_f = 0;
-};
-
 struct LeadingFields {
-  std::optional<std::string> model;
+  Leading which = Leading::None;
   bool begins_with_number = false;  // as a database without leading fields does
   bool model_is_empty = false;      // an empty line or field, not an empty text
-  std::optional<BlmFields> blm;
+  std::string model{};
+  std::string description{}, label{};  // no meaning here; kept as they are
+  double critical_f = 0;
 };
 
 class SpeciesReader {
