@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "app/start_up.h"
 #include "db/number.h"
 #include "db/species_reader.h"
 #include "edit/models.h"
@@ -17,19 +16,21 @@ constexpr std::string_view kComponentFilter = "Kelmar database files (*.MDB)|*.M
 
 }  // namespace
 
-frmMaindb::frmMaindb(ui::Dialogs& dialogs, file::System& system) : dialogs_(dialogs), system_(system) {
-  for (const ui::ControlDef& def : window_def().controls) {
-    ui::Control control;
-    control.text = def.caption;
-    control.shown = def.shown;
-    window_.controls.push_back(std::move(control));
-  }
+std::string working_folder(std::string_view current_folder) {
+  if (current_folder == R"(C:\Program\Microsoft Visual Studio\VB98)" ||
+      current_folder == R"(C:\Program Files\Microsoft Visual Studio\VB98)")
+    return R"(c:\Program Files\kelmar)";
+  return std::string(current_folder);
 }
 
-template <typename Handler>
-void frmMaindb::run(Handler handler) {
+frmMaindb::frmMaindb(ui::Dialogs& dialogs, file::System& system) : dialogs_(dialogs), system_(system) {
+  for (const ui::ControlDef& def : window_def().controls)
+    window_.controls.push_back({.text = def.caption, .shown = def.shown});
+}
+
+void frmMaindb::run(void (frmMaindb::*handler)()) {
   try {
-    handler();
+    (this->*handler)();
   } catch (const std::bad_alloc&) {
     state_.suggestrun = false;
     refuse(
@@ -38,43 +39,36 @@ void frmMaindb::run(Handler handler) {
   }
 }
 
-void frmMaindb::load() {
-  run([this] { Form_Load(); });
-}
+void frmMaindb::load() { run(&frmMaindb::Form_Load); }
 
 void frmMaindb::click(int control) {
-  run([this, control] { run_handler(control); });
-}
-
-void frmMaindb::run_handler(int control) {
   switch (control) {
-    case lstReactions: return lstReactions_Click();
-    case cboIsoterm: return cboIsoterm_Click();
-    case cmdAddnew: return cmdAddnew_Click();
-    case cmdNextcomp: return cmdNextcomp_Click();
-    case cmdSuggest: return cmdSuggest_Click();
-    case cmdDelete: return cmdDelete_Click();
-    case cmdSavedb: return cmdSavedb_Click();
-    case cmdNewDb: return cmdNewDb_Click();
-    case cmdCompdb: return cmdCompdb_Click();
-    case mnuFileOpen: return mnuFileOpen_Click();
-    case mnuFileExit: return mnuFileExit_Click();
-    case cmdQuit: return cmdQuit_Click();
+    case lstReactions: return run(&frmMaindb::lstReactions_Click);
+    case cboIsoterm: return run(&frmMaindb::cboIsoterm_Click);
+    case cmdAddnew: return run(&frmMaindb::cmdAddnew_Click);
+    case cmdNextcomp: return run(&frmMaindb::cmdNextcomp_Click);
+    case cmdSuggest: return run(&frmMaindb::cmdSuggest_Click);
+    case cmdDelete: return run(&frmMaindb::cmdDelete_Click);
+    case cmdSavedb: return run(&frmMaindb::cmdSavedb_Click);
+    case cmdNewDb: return run(&frmMaindb::cmdNewDb_Click);
+    case cmdCompdb: return run(&frmMaindb::cmdCompdb_Click);
+    case mnuFileOpen: return run(&frmMaindb::mnuFileOpen_Click);
+    case mnuFileExit: return run(&frmMaindb::mnuFileExit_Click);
+    case cmdQuit: return run(&frmMaindb::cmdQuit_Click);
     default: return;
   }
 }
 
 void frmMaindb::Form_Load() {
-  state_.compdb = "comp.mdb";
-  std::string folder;
-  std::string drive;
+  state_.open.compdb = "comp.mdb";
+  std::string folder, drive;
   try {
     if (const auto error = system_.current_folder(folder))
       throw file::Error("there is no current folder: " + error.message() + ".");
     folder = working_folder(folder);
     if (const auto error = system_.change_folder(folder))
       throw file::Error("the folder cannot be entered: " + error.message() + ".");
-    drive = first_field(system_, "dabase.txt");
+    drive = db::first_field(system_, "dabase.txt");
   } catch (const file::Error& error) {
     refuse("The editor cannot start" + (folder.empty() ? "" : " in " + file::named(folder)) + ": " + error.what() +
            " Start it from Kelmar, in Kelmar's folder.");
@@ -94,7 +88,7 @@ std::string frmMaindb::take_hand_over(const std::string& folder, const std::stri
   if (system_.change_folder(folder)) return "";
   state_.dialog_folder = folder;
   try {
-    std::string path = first_field(system_, "sorptemp.dat");
+    std::string path = db::first_field(system_, "sorptemp.dat");
     system_.remove("sorptemp.dat");  // or it would be read again at the next start
     return path;
   } catch (const file::Error&) {
@@ -175,7 +169,7 @@ void frmMaindb::mnuFileOpen_Click() {
 void frmMaindb::cmdCompdb_Click() {
   const auto chosen = dialogs_.choose_file(
       {.form = ui::FileRequest::Form::Save, .filter = kComponentFilter, .folder = state_.dialog_folder});
-  if (chosen) state_.compdb = *chosen;
+  if (chosen) state_.open.compdb = *chosen;
 }
 
 void frmMaindb::cboIsoterm_Click() {

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "app/frmMaindb.h"
-#include "db/field.h"
+#include "db/field_reader.h"
 #include "db/rewrite.h"
 #include "edit/saving.h"
 
@@ -40,7 +40,7 @@ void frmMaindb::cmdNewDb_Click() {
   // What the program refuses is told; whatever else fails ends the handler in silence.
   std::optional<std::string> warning;
   try {
-    warning = db::copy_to(system_, state_.open, *chosen, state_.compdb);
+    warning = db::copy_to(system_, state_.open, *chosen);
   } catch (const file::Refusal& refusal) {
     return refuse(refusal.what());
   } catch (const file::Error&) {
@@ -79,8 +79,8 @@ bool frmMaindb::savedb() {
   const bool add = species && !species->empty() && *species == db::trimmed(text(txtSpname));
   if (!add && state_.open.isomodel == db::kNicaDonnan) state_.open.isoselect = db::kNicaDonnan;
   const edit::Entry entry = SpeciesChange();
-  const auto warning = add ? edit::add_species(system_, state_.open, state_.compdb, entry, text(txtf50))
-                           : edit::change_species(system_, state_.open, state_.compdb, species, entry, text(txtf50));
+  const auto warning = add ? edit::add_species(system_, state_.open, entry, text(txtf50))
+                           : edit::change_species(system_, state_.open, species, entry, text(txtf50));
   if (add) Newspecdelete();
   Listfill();
   if (warning) refuse(*warning);
@@ -88,21 +88,11 @@ bool frmMaindb::savedb() {
 }
 
 edit::Entry frmMaindb::SpeciesChange() const {
-  edit::Entry entry{.id = text(txtID),
-                    .name = text(txtName),
-                    .logk = text(txtlogk),
-                    .dhr = text(txtdhr),
-                    .ksel = text(txtKsel),
-                    .charge = text(txtCharge),
-                    .nocomp = text(txtNocomp),
-                    .lk2 = std::nullopt,
-                    .rows = {}};
+  edit::Entry entry{text(txtID),   text(txtName),   text(txtlogk),
+                    text(txtdhr),  text(txtCharge), text(txtNocomp),
+                    text(txtKsel), std::nullopt,    {}};
   if (window_[txtLk2].shown) entry.lk2 = text(txtLk2);
-  int i = 0;
-  for (edit::Row& row : entry.rows) {
-    ++i;
-    row = {text(txtStoich(i)), text(txtComp(i)), text(txtMBstoich(i))};
-  }
+  for (int i = 1; i <= kRows; ++i) entry.rows.push_back({text(txtStoich(i)), text(txtComp(i)), text(txtMBstoich(i))});
   return entry;
 }
 
@@ -119,9 +109,8 @@ void frmMaindb::cmdDelete_Click() {
     return;
 
   std::optional<std::string> warning;
-  const auto failure =
-      message_of([&] { warning = edit::delete_species(system_, state_.open, state_.compdb, species, text(txtf50)); },
-                 "The species was not deleted: ", " Put that right and try again.");
+  const auto failure = message_of([&] { warning = edit::delete_species(system_, state_.open, species, text(txtf50)); },
+                                  "The species was not deleted: ", " Put that right and try again.");
   if (failure) return refuse(*failure);
   remove_species(entry);
   empty_rows();

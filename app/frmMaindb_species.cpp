@@ -5,9 +5,9 @@
 #include <utility>
 
 #include "app/frmMaindb.h"
-#include "db/field.h"
+#include "db/field_reader.h"
 #include "db/number.h"
-#include "edit/choices.h"
+#include "edit/models.h"
 
 namespace app {
 namespace {
@@ -22,7 +22,7 @@ void frmMaindb::lstReactions_Click() {
   hide({lblLk2, txtLk2});
   std::optional<edit::Shown> shown;
   const auto failure =
-      message_of([&] { shown = edit::show_species(system_, state_.open, state_.compdb, selected_species().value_or("")); },
+      message_of([&] { shown = edit::show_species(system_, state_.open, selected_species().value_or("")); },
                  "The species cannot be shown: ", " Mend the file with a text editor, or open another one.");
   if (shown) show_values(*shown);
   if (shown && shown->notice) refuse(*shown->notice);
@@ -33,30 +33,27 @@ void frmMaindb::lstReactions_Click() {
 }
 
 void frmMaindb::show_values(const edit::Shown& shown) {
-  if (shown.lk2) {
+  const edit::Entry& boxes = shown.boxes;
+  if (boxes.lk2) {
     show({txtLk2, lblLk2});
     set(lblLk2, shown.lk2_caption);
-    set(txtLk2, *shown.lk2);
+    set(txtLk2, *boxes.lk2);
   }
   if (shown.ksel_is_m_ref) {
     show({txtKsel, lblKsel});
     set(lblKsel, "m-ref");
   }
-  if (shown.ksel) set(txtKsel, *shown.ksel);
-  set(txtlogk, shown.logk);
-  set(txtdhr, shown.dhr);
-  set(txtName, shown.name);
-  set(txtID, shown.id);
-  set(txtCharge, shown.charge);
-  set(txtNocomp, shown.nocomp);
+  if (boxes.ksel) set(txtKsel, *boxes.ksel);
+  set(txtlogk, boxes.logk);
+  set(txtdhr, boxes.dhr);
+  set(txtName, boxes.name);
+  set(txtID, boxes.id);
+  set(txtCharge, boxes.charge);
+  set(txtNocomp, boxes.nocomp);
   int i = 0;
-  for (const edit::Row& row : shown.rows) {
-    ++i;
-    if (state_.open.mbfields) {
-      show({txtMBstoich(i)});
-      set(txtMBstoich(i), row.mbstoich);
-    }
-    show({lblStoich(i), txtComp(i), txtStoich(i)});
+  for (const edit::Row& row : boxes.rows) {
+    show_row(++i);
+    if (state_.open.mbfields) set(txtMBstoich(i), row.mbstoich);
     set(txtStoich(i), row.stoich);
     set(txtComp(i), row.comp);
   }
@@ -69,7 +66,7 @@ void frmMaindb::cmdAddnew_Click() {
   if (state_.open.mbfields) show({lblMAnote});
   set(txtSpname, "");
   set(lblComp, component_caption("1"));
-  edit::Choices choices = edit::component_choices(system_, state_.compdb, state_.open.isomodel, state_.open.cdbfile());
+  edit::Choices choices = edit::component_choices(system_, state_.open);
   window_[cboComp].entries = std::move(choices.names);
   empty_rows();
   window_[lstReactions].selected = -1;
@@ -91,8 +88,7 @@ bool frmMaindb::refuse_ninth_component() {
 
 void frmMaindb::take_pending_component() {
   const int k = state_.compslot;
-  show({txtComp(k), txtStoich(k), lblStoich(k)});
-  if (state_.open.mbfields) show({txtMBstoich(k)});
+  show_row(k);
   set(txtComp(k), text(cboComp));
   set(txtStoich(k), text(txtStoicn));
   set(txtStoicn, "");
@@ -131,13 +127,16 @@ void frmMaindb::suggest_id() {
   set(txtID, db::numtext(edit::free_id(system_, state_.open, state_.idcompno)));
 }
 
-void frmMaindb::numgenerator2() {
-  edit::look_up(system_, state_.compdb, text(txtComp(1)), text(txtComp(2)), state_.idcompno);
-}
+void frmMaindb::numgenerator2() { edit::look_up(system_, state_.open, text(txtComp(1)), text(txtComp(2)), state_.idcompno); }
 
 void frmMaindb::Newspecdelete() {
   set(txtSpname, "");
   hide({txtSpname, lblAddnew, txtStoicn, lblSpname, lblComp, cboComp, cmdNextcomp, cmdSuggest, lblMAnote});
+}
+
+void frmMaindb::show_row(int i) {
+  show({lblStoich(i), txtComp(i), txtStoich(i)});
+  if (state_.open.mbfields) show({txtMBstoich(i)});
 }
 
 void frmMaindb::hide_rows() {

@@ -14,7 +14,7 @@
 
 #include "data.h"
 #include "db/rewrite.h"
-#include "edit/species_record.h"
+#include "edit/saving.h"
 #include "edit/suggestion.h"
 
 namespace {
@@ -22,9 +22,7 @@ namespace {
 using bench::kDatabase;
 using bench::kSpecies;
 
-const char* const kCompdb = bench::kComponentDatabase;
-
-const db::Database kOpen{.path = kDatabase};
+const db::Database kOpen{.path = kDatabase, .compdb = bench::kComponentDatabase};
 std::string content;  // of kDatabase
 
 // Into a list that is filled again and again, as that of the window.
@@ -53,7 +51,7 @@ BENCHMARK(load);
 
 void click_last(benchmark::State& state) {
   db::Database open = kOpen;
-  for (auto _ : state) benchmark::DoNotOptimize(edit::show_species(file::system(), open, kCompdb, "last").value());
+  for (auto _ : state) benchmark::DoNotOptimize(edit::show_species(file::system(), open, "last").value());
 }
 BENCHMARK(click_last);
 
@@ -66,40 +64,32 @@ void suggest_id(benchmark::State& state) {
 }
 BENCHMARK(suggest_id);
 
-// A change of the species in the middle: the new content.
-void change(db::Rewrite& rewrite) {
-  const std::string name = bench::species_name(kSpecies / 2);
-  edit::Entry entry{.id = db::numtext(bench::species_id(kSpecies / 2)),
-                    .name = name,
-                    .logk = " 2.5",
-                    .dhr = "0",
-                    .ksel = "",
-                    .charge = "1",
-                    .nocomp = "2",
-                    .lk2 = std::nullopt,
-                    .rows = {}};
-  entry.rows[0] = {"1", "Comp150+2", ""};
-  entry.rows[1] = {"-1", "Comp330+2", ""};
-  while (rewrite.keep_until(name))
-    rewrite.put(edit::species_record(entry, kOpen, edit::numbers_of(file::system(), kCompdb, entry.components())));
+const std::string kChanged = bench::species_name(kSpecies / 2);
+
+edit::Entry change() {
+  return {.id = db::numtext(bench::species_id(kSpecies / 2)),
+          .name = kChanged,
+          .logk = " 2.5",
+          .dhr = "0",
+          .charge = "1",
+          .nocomp = "2",
+          .ksel = "",
+          .lk2 = std::nullopt,
+          .rows = {{"1", "Comp150+2", ""}, {"-1", "Comp330+2", ""}}};
 }
 
 // All that a save does before it writes.
 void new_content(benchmark::State& state) {
   for (auto _ : state) {
-    db::Rewrite rewrite(file::system(), kOpen, kCompdb, {});
-    change(rewrite);
+    db::Rewrite rewrite(file::system(), kOpen, {});
+    while (rewrite.keep_until(kChanged)) rewrite.put(edit::species_record(file::system(), kOpen, change()));
     benchmark::DoNotOptimize(rewrite.content().data());
   }
 }
 BENCHMARK(new_content);
 
 void save(benchmark::State& state) {
-  for (auto _ : state) {
-    db::Rewrite rewrite(file::system(), kOpen, kCompdb, {});
-    change(rewrite);
-    benchmark::DoNotOptimize(rewrite.commit());
-  }
+  for (auto _ : state) benchmark::DoNotOptimize(edit::change_species(file::system(), kOpen, kChanged, change(), ""));
 }
 BENCHMARK(save);
 

@@ -30,7 +30,7 @@ void loading(benchmark::State& state) {
 void saving(benchmark::State& state) {
   prepare(state);
   for (auto _ : state) {
-    db::Rewrite rewrite(file::system(), {.path = "bench.mdb"}, "comp.mdb", {});
+    db::Rewrite rewrite(file::system(), {.path = "bench.mdb", .compdb = "comp.mdb"}, {});
     rewrite.keep_until(std::nullopt);
     benchmark::DoNotOptimize(rewrite.commit());
   }

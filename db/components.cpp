@@ -4,7 +4,7 @@
 #include <array>
 #include <string_view>
 
-#include "db/field.h"
+#include "db/field_reader.h"
 
 namespace db {
 
@@ -66,7 +66,7 @@ FoundNumbers component_numbers(file::System& system, const std::string& path, st
     if (std::find(names.begin(), names.end(), name) == names.end()) continue;
     const auto number = component.number.number();
     if (!number) reader.fail("the number of " + file::named(name) + " is text");
-    found[std::string(name)].value = component.number.text.empty() ? std::nullopt : number;
+    found[std::string(name)] = component.number.text.empty() ? std::nullopt : number;
   }
   if (reader.cut_short()) reader.fail("the file ends inside the record");
   return found;

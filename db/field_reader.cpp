@@ -1,23 +1,26 @@
 #include "db/field_reader.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
-#include <cstring>
 #include <string_view>
 #include <utility>
 
 namespace db {
 namespace {
 
-constexpr std::array<bool, 256> table_of(std::string_view characters) {
-  std::array<bool, 256> table{};
-  for (const char c : characters) table[static_cast<unsigned char>(c)] = true;
+using Table = std::array<bool, 256>;
+
+constexpr Table table_of(std::string_view characters, bool in_it = true) {
+  Table table{};
+  table.fill(!in_it);
+  for (const char c : characters) table[static_cast<unsigned char>(c)] = in_it;
   return table;
 }
 
 constexpr auto kEndsField = table_of(",\r\n");
 constexpr auto kEndsQuotedText = table_of("\"\r\n");
-constexpr auto kBlank = table_of(" \t");
+constexpr auto kBlank = table_of(" \t"), kNoBlank = table_of(" \t", false);
 constexpr auto kEmpty = table_of(" \t,\r\n");  // what fields without a value are made of
 constexpr std::ptrdiff_t kLongestPlain = kLongestText;
 constexpr const char* kTooLong = "a field is longer than 64 KiB";
@@ -29,10 +32,10 @@ const char* after_plain(const char* at) {
   return at;
 }
 
-bool is_in(const std::array<bool, 256>& table, char c) { return table[static_cast<unsigned char>(c)]; }
+bool is_in(const Table& table, char c) { return table[static_cast<unsigned char>(c)]; }
 
 // The first character from `at` on that is in the table.
-const char* find(const std::array<bool, 256>& table, const char* at) {
+const char* find(const Table& table, const char* at) {
   while (!is_in(table, *at)) ++at;
   return at;
 }
@@ -40,20 +43,20 @@ const char* find(const std::array<bool, 256>& table, const char* at) {
 }  // namespace
 
 FieldReader::FieldReader(file::System& system, const std::string& path, std::string name)
-    : input_(system, path, std::move(name)) {
-  blocks_.push_back(std::make_unique_for_overwrite<Block>());
-  blocks_.back()->front() = '\n';
-  next_ = end_ = blocks_.back()->data();
-  const char* at = next_;
-  while (end_ - next_ < std::ssize(kByteOrderMark) && refill(at)) {
+    : input_(system, path, std::move(name)),
+      bytes_(std::make_unique_for_overwrite<char[]>(kRoom)),
+      next_(bytes_.get()),
+      end_(next_) {
+  while (end_ - next_ < std::ssize(kByteOrderMark) && refill()) {
   }
   if (std::string_view(next_, end_).starts_with(kByteOrderMark)) next_ += kByteOrderMark.size();
 }
 
+// What was not read yet moves to the front once there is a block before it.
 void FieldReader::forget() {
-  if (blocks_.size() == 1) return;
-  spare_ = std::move(blocks_.front());
-  blocks_.erase(blocks_.begin(), blocks_.end() - 1);
+  if (next_ - bytes_.get() < static_cast<std::ptrdiff_t>(kBlock)) return;
+  end_ = std::copy(next_, end_ + 1, bytes_.get()) - 1;
+  next_ = bytes_.get();
 }
 
 bool FieldReader::begin_record() {
@@ -74,103 +77,79 @@ bool FieldReader::only_blanks_left() const {
   }
 }
 
-// Reads on after the last byte. When the block is full, a new one begins with the bytes from next_ on, and `at` moves with
-// them; the old one lives on for the fields of this record that point into it. False at the end of the file.
-bool FieldReader::refill(const char*& at) {
+// Reads on after the last byte, inside a field that is not too long yet; false at the end of the file.
+bool FieldReader::refill() {
   if (file_ended_) return false;
-  Block* block = blocks_.back().get();
-  std::size_t used = static_cast<std::size_t>(end_ - block->data());
-  if (block->size() - 1 - used < kLeastRead) {
-    const std::size_t kept = static_cast<std::size_t>(end_ - next_);
-    if (kept > kLongestField) throw FieldError(kTooLong);
-    const std::ptrdiff_t offset = at - next_;
-    blocks_.push_back(spare_ ? std::move(spare_) : std::make_unique_for_overwrite<Block>());
-    block = blocks_.back().get();
-    std::memcpy(block->data(), next_, kept);
-    next_ = block->data();
-    at = next_ + offset;
-    used = kept;
-  }
-  const std::size_t got = input_.read(offset_, block->data() + used, block->size() - 1 - used);
+  const auto used = static_cast<std::size_t>(end_ - bytes_.get());
+  if (end_ - next_ > static_cast<std::ptrdiff_t>(kLongestField) || used + kBlock >= kRoom) throw FieldError(kTooLong);
+  const std::size_t got = input_.read(offset_, &bytes_[used], kBlock);
+  bytes_[used + got] = '\n';
+  end_ += got;
   offset_ += got;
-  end_ = block->data() + used + got;
-  (*block)[used + got] = '\n';
   file_ended_ = got == 0;
   return !file_ended_;
 }
 
-// A last line without its end, or a comma at the very end, leaves nothing.
-bool FieldReader::at_end() {
-  const char* at = next_;
-  return next_ == end_ && !refill(at);
+// After the comma or CR LF here; null for another end of a field.
+const char* FieldReader::after_separator(const char* at) const {
+  return *at == ',' ? at + 1 : *at == '\r' && at[1] == '\n' && at + 1 != end_ ? at + 2 : nullptr;
 }
 
-// Nearly every field stands without blanks and ends inside the block, with a comma or CR LF: it is found here, any other in
-// next_of_any_kind(). No search runs beyond the line end after the block.
+// Nearly every field stands without blanks and ends inside what was read, with a comma or CR LF: it is found here, any other
+// in next_of_any_kind(). No search runs beyond the line end after the last byte.
 bool FieldReader::next(std::span<Field> fields) {
-  const char* at = next_;
   for (Field& field : fields) {
-    const char* const begin = at;
-    const char* end = after_plain(at);
-    if (end - begin <= kLongestPlain) {
-      if (*end == ',') {
-        field = {{begin, static_cast<std::size_t>(end - begin)}, false};
-        at = end + 1;
-        continue;
-      }
-      if (*end == '\r' && end[1] == '\n' && end + 1 != end_) {
-        field = {{begin, static_cast<std::size_t>(end - begin)}, false};
-        at = end + 2;
-        continue;
-      }
-      if (*end == '"' && end == begin) {
-        end = find(kEndsQuotedText, begin + 1);
-        if (*end == '"' && end[1] == ',' && end - begin <= kLongestPlain) {
-          field = {{begin + 1, static_cast<std::size_t>(end - begin - 1)}, true};
-          at = end + 2;
-          continue;
-        }
-      }
+    const char* end = after_plain(next_);
+    const bool quoted = *end == '"' && end == next_;
+    if (quoted) end = find(kEndsQuotedText, next_ + 1);
+    const char* const after = quoted == (*end == '"') ? after_separator(end + quoted) : nullptr;
+    if (after == nullptr || end - next_ > kLongestPlain) {
+      if (!next_of_any_kind(field)) return false;
+      continue;
     }
-    next_ = begin;
-    if (!next_of_any_kind(field)) return false;
-    at = next_;
+    field = {{next_ + quoted, end}, quoted};
+    next_ = after;
   }
-  next_ = at;
   return true;
 }
 
 bool FieldReader::next_of_any_kind(Field& field) {
   if (at_end()) return false;
-  // Every search stops at the line end after the last byte read; there it goes on once more has been read.
   const char* at = next_;
-  do
-    while (is_in(kBlank, *at)) ++at;
-  while (at == end_ && refill(at));
-
+  const auto search = [&](const Table& table) {
+    do at = find(table, at);
+    while (at == end_ && refill());
+  };
+  search(kNoBlank);
   field.quoted = *at == '"';
-  if (field.quoted) ++at;
-  const std::ptrdiff_t before_text = at - next_;
+  const char* const begin = field.quoted ? ++at : at;
   if (field.quoted) {
-    do at = find(kEndsQuotedText, at);
-    while (at == end_ && refill(at));
+    search(kEndsQuotedText);
     if (*at != '"') throw FieldError("a quoted text is not closed on its line");
-    field.text = {next_ + before_text, static_cast<std::size_t>(at - next_ - before_text)};
   }
-  do at = find(kEndsField, at);
-  while (at == end_ && refill(at));
+  const char* end = at;
+  search(kEndsField);
   if (at - next_ > static_cast<std::ptrdiff_t>(kLongestField)) throw FieldError(kTooLong);
-  if (!field.quoted) {
-    const char* end = at;
-    while (end != next_ + before_text && is_in(kBlank, end[-1])) --end;
-    field.text = {next_ + before_text, static_cast<std::size_t>(end - next_ - before_text)};
-  }
+  if (!field.quoted)
+    for (end = at; end != begin && is_in(kBlank, end[-1]);) --end;
+  field.text = {begin, end};
 
   next_ = at;
   if (at == end_) return true;
   const bool may_be_pair = *next_++ == '\r';
   if (may_be_pair && !at_end() && *next_ == '\n') ++next_;
   return true;
+}
+
+std::string first_field(file::System& system, const std::string& path) {
+  FieldReader reader(system, path);
+  Field field;
+  try {
+    if (reader.next(field)) return std::string(field.text);
+  } catch (const FieldError& error) {
+    throw file::Error(file::named(path) + ": " + error.what() + ".");
+  }
+  throw file::Error(file::named(path) + " is empty.");
 }
 
 }  // namespace db

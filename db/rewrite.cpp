@@ -7,33 +7,44 @@
 namespace db {
 namespace {
 
-file::Refusal misplaced(const Database& database) {
-  return file::Refusal(file::named(database.path) +
+// The component database is never written.
+file::Spared spared(const Database& open) { return {open.compdb, "the component database"}; }
+
+file::Refusal misplaced(const Database& open) {
+  return file::Refusal(file::named(open.path) +
                        " is another database than the one that was open, which could not be copied there. Open the one or " +
                        "the other with the File menu.");
 }
 
 }  // namespace
 
-std::optional<std::string> copy_to(file::System& system, const Database& database, const std::string& path,
-                                   const std::string& compdb) {
-  file::Status present;
-  const bool there = !system.status(database.path, file::Follow::Links, present) && present.type != file::Type::Missing;
-  if (database.misplaced && there) throw misplaced(database);
-  if (file::same_place(system, path, kTemporaryFile))
-    throw file::Refusal(file::named(path) + " is the temporary file of every save. Choose another name.");
-  file::refuse_temporary(system, kTemporaryFile, database.path);
-  return file::copy_over(system, database.path, path, spare_components(compdb));
+std::optional<std::string> misnamed(const Database& open) {
+  const Kind by_name = kind_of(open.path);
+  if (by_name == open.kind) return std::nullopt;
+  return file::named(open.path) + " holds " + std::string(name_of(open.kind).name) + ", but its name is that of " +
+         std::string(name_of(by_name).name) +
+         ". The list and the boxes may therefore be wrong: give it a name that ends in ." +
+         std::string(name_of(open.kind).extension) + " and open it again.";
 }
 
-Rewrite::Rewrite(file::System& system, const Database& database, const std::string& compdb, const NewLeading& leading)
-    : replacement_(system, kTemporaryFile, database.path, spare_components(compdb)),
-      reader_(system, replacement_.path(), database.path),
-      name_(file::named(database.path)) {
-  if (database.misplaced) throw misplaced(database);
+std::optional<std::string> copy_to(file::System& system, const Database& open, const std::string& path) {
+  file::Status present;
+  const bool there = !system.status(open.path, file::Follow::Links, present) && present.type != file::Type::Missing;
+  if (open.misplaced && there) throw misplaced(open);
+  if (file::same_place(system, path, kTemporaryFile))
+    throw file::Refusal(file::named(path) + " is the temporary file of every save. Choose another name.");
+  file::refuse_temporary(system, kTemporaryFile, open.path);
+  return file::copy_over(system, open.path, path, spared(open));
+}
+
+Rewrite::Rewrite(file::System& system, const Database& open, const NewLeading& leading)
+    : replacement_(system, kTemporaryFile, open.path, spared(open)),
+      reader_(system, replacement_.path(), open.path),
+      name_(file::named(open.path)) {
+  if (open.misplaced) throw misplaced(open);
   constexpr std::size_t kGrowth = 4096;  // room for one more species
   out_.reserve(std::min(replacement_.old_size(), file::kLargestDatabase) + kGrowth);
-  LeadingFields fields = reader_.read_leading(leading_of(database.kind));
+  LeadingFields fields = reader_.read_leading(leading_of(open.kind));
   if (fields.begins_with_number) refuse_kind("a number stands in the place of the first text");
   no_model_ = fields.model_is_empty;
   if (fields.model && !leading.model.empty()) {

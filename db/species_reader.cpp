@@ -105,17 +105,17 @@ const Record* SpeciesReader::read_record() {
   return &record_;
 }
 
-double SpeciesReader::number(const Field& field, const char* what) {
+double SpeciesReader::number(const Field& field, const char* what) const {
   const auto value = field.number();
-  if (!value) throw FieldError(std::string(what) + " is \"" + file::named(field.text) + "\", not a number");
+  if (!value) fail(std::string(what) + " is \"" + file::named(field.text) + "\", not a number");
   return *value;
 }
 
 // A count below 1 means none.
-void SpeciesReader::read_pairs(Pairs& pairs, double count, const char* what) {
+void SpeciesReader::read_pairs(std::vector<Field>& pairs, double count, const char* what) {
   if (count > kMaxPairs) throw FieldError("it has more than " + std::to_string(kMaxPairs) + " " + what);
-  pairs.count_ = static_cast<int>(std::max(count, 0.));
-  require(std::span(pairs.fields_).first(static_cast<std::size_t>(2 * pairs.count_)));
+  pairs.resize(2 * static_cast<std::size_t>(std::max(count, 0.)));
+  require(pairs);
 }
 
 Listing list_species(file::System& system, const Database& open) {

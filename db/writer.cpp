@@ -5,19 +5,19 @@
 
 namespace db {
 
-void LineWriter::separate() {
+std::string& LineWriter::next() {
   if (!first_) out_ += ',';
   first_ = false;
+  return out_;
 }
 
 LineWriter& LineWriter::number(double value) {
-  separate();
-  append_number(out_, value);
+  append_number(next(), value);
   return *this;
 }
 
 LineWriter& LineWriter::text(std::string_view value) {
-  separate();
+  next();
   // Between quotes a quote of its own would end it, and a reader takes no longer field than kLongestField; bare, as it must
   // have been read, it reads the same again.
   const bool fits = value.size() <= kLongestText;
@@ -28,23 +28,18 @@ LineWriter& LineWriter::text(std::string_view value) {
 }
 
 LineWriter& LineWriter::empty() {
-  separate();
+  next();
   return *this;
 }
 
 LineWriter& LineWriter::field(const Field& field) {
   if (field.quoted) return text(field.text);
-  if (field.text.empty()) return empty();
-  if (is_formatted(field.text)) {
-    separate();
-    out_ += field.text;
-    return *this;
+  if (!field.text.empty() && !is_formatted(field.text)) {
+    const auto value = parse_number(field.text);
+    if (!value) return text(field.text);
+    if (std::abs(*value) < kTooLarge) return number(*value);
   }
-  const auto value = parse_number(field.text);
-  if (!value) return text(field.text);
-  if (std::abs(*value) < kTooLarge) return number(*value);
-  separate();
-  out_ += field.text;
+  next() += field.text;
   return *this;
 }
 
@@ -80,10 +75,10 @@ void append_line(std::string& out, std::span<const Field> fields) {
 
 void append_record(std::string& out, const Record& record) {
   append_line(out, record.head);
-  append_line(out, record.pairs.fields());
+  append_line(out, record.pairs);
   if (!record.has_mb) return;
   append_line(out, std::span(&record.mb_count, 1));
-  append_line(out, record.mb_pairs.fields());
+  append_line(out, record.mb_pairs);
 }
 
 void append_leading(std::string& out, const LeadingFields& fields) {

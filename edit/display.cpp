@@ -1,10 +1,10 @@
 #include "edit/display.h"
 
 #include <algorithm>
-#include <string_view>
 #include <utility>
 
-#include "edit/marks.h"
+#include "db/components.h"
+#include "db/species_reader.h"
 
 namespace edit {
 namespace {
@@ -13,97 +13,68 @@ using db::numtext;
 
 bool is_empty(const db::Field& field) { return field.type() == db::FieldType::Empty; }
 
-class Display {
- public:
-  Display(const db::SpeciesReader& reader, const db::Record& record, const db::Database& database)
-      : reader_(reader),
-        record_(record),
-        database_(database) {}
-
-  Shown shown(file::System& system, const std::string& compdb) {
-    show_by_kind();
-    show_common();
-    show_rows(system, compdb);
-    return std::move(shown_);
+// Of several M.B. stoichiometries of a component the last counts.
+std::string mb_text(const db::SpeciesReader& reader, const std::vector<db::Field>& pairs, const db::Field& compno) {
+  for (std::size_t i = pairs.size(); i > 0; i -= 2) {
+    const db::Field& stoich = pairs[i - 2];
+    if (pairs[i - 1].number() == compno.number())
+      return is_empty(stoich) ? "" : numtext(reader.number(stoich, "the M.B. stoichiometry"));
   }
+  return "";
+}
 
- private:
-  double number(const db::Field& field, const std::string& what) const {
-    const auto value = field.number();
-    if (!value) reader_.fail("the " + what + " is \"" + file::named(field.text) + "\", not a number");
-    return *value;
-  }
-  double number(db::HeadField field, const char* what) const { return number(record_.head[field], what); }
-  std::string_view name() const { return record_.head[db::kName].text; }
-
-  void show_by_kind() {
-    const double id = number(db::kId, "ID number");
-    shown_.id = numtext(id);
-    const IdRange range = range_of(id);
-    if (range == IdRange::Lk2 && name() != "/FA-" && name() != "/HA-") {
-      shown_.lk2_caption = "Lk2";
-    } else if (range == IdRange::Nica) {
-      shown_.ksel_is_m_ref = database_.isomodel == "NICA";
-      shown_.lk2_caption = id < 13299999 ? "m" : id < 13399999 ? "b" : "n";
-    } else if (database_.blifile()) {
-      shown_.ksel = number(db::kLk2, "toxicity flag") == 0 ? " No" : " Yes";
+void show_rows(file::System& system, const db::Database& open, const db::SpeciesReader& reader, const db::Record& record,
+               Shown& shown) {
+  const std::vector<db::Field>& pairs = record.pairs;
+  const std::size_t rows = std::min<std::size_t>(pairs.size() / 2, db::kShownPairs);
+  if (pairs.size() / 2 > rows)
+    shown.notice = file::named(record.name()) + " has " + std::to_string(pairs.size() / 2) +
+                   " components: the window holds eight, and the others stay in the database unseen. "
+                   "Change this species with a text editor.";
+  std::vector<double> compno;  // of the rows that have one
+  for (std::size_t i = 0; i < rows; ++i)
+    if (!is_empty(pairs[2 * i + 1])) compno.push_back(reader.number(pairs[2 * i + 1], "the component number"));
+  const auto found = compno.empty() ? db::ComponentNames() : db::component_names(system, open.compdb, compno);
+  if (found.failure)
+    shown.notice = "The components are shown by number: " + *found.failure +
+                   " Choose another component database, or mend this one." + (shown.notice ? " " + *shown.notice : "");
+  for (std::size_t i = 0, at = 0; i < rows; ++i) {
+    Row row{.stoich = numtext(reader.number(pairs[2 * i], "the stoichiometry")), .comp = "#", .mbstoich = ""};
+    if (!is_empty(pairs[2 * i + 1])) {
+      row.comp = shown_name(found.names[at].value_or("#"), compno[at]);
+      ++at;
     }
-    if (!shown_.lk2_caption.empty()) shown_.lk2 = " " + numtext(number(db::kLk2, "second constant"));
+    if (open.mbfields) row.mbstoich = mb_text(reader, record.mb_pairs, pairs[2 * i + 1]);
+    shown.boxes.rows.push_back(std::move(row));
   }
+}
 
-  void show_common() {
-    shown_.logk = " " + numtext(number(db::kLogK, "log K"));
-    shown_.dhr = " " + numtext(number(db::kDhr, "dHr"));
-    if (database_.isomodel == "NICA" || database_.cdbfile()) shown_.ksel = " " + numtext(number(db::kKsel, "K-sel"));
-    shown_.name = name();
-    shown_.charge = numtext(number(db::kCharge, "charge"));
-    const double components = record_.head[db::kComponents].number().value_or(0);  // a number, or it had not been read
-    shown_.nocomp = numtext(components > db::kMbBlock ? components - db::kMbBlock : components);
+Shown shown_of(file::System& system, const db::Database& open, const db::SpeciesReader& reader, const db::Record& record) {
+  const auto number = [&](db::HeadField field, const char* what) { return reader.number(record.head[field], what); };
+  Shown shown;
+  Entry& boxes = shown.boxes;
+  const double id = number(db::kId, "the ID number");
+  const IdRange range = range_of(id);
+  boxes.id = numtext(id);
+  boxes.name = record.name();
+  if (range == IdRange::Lk2 && boxes.name != "/FA-" && boxes.name != "/HA-") {
+    shown.lk2_caption = "Lk2";
+  } else if (range == IdRange::Nica) {
+    shown.ksel_is_m_ref = open.isomodel == "NICA";
+    shown.lk2_caption = id < 13299999 ? "m" : id < 13399999 ? "b" : "n";
+  } else if (open.blifile()) {
+    boxes.ksel = number(db::kLk2, "the toxicity flag") == 0 ? " No" : " Yes";
   }
-
-  void show_rows(file::System& system, const std::string& compdb) {
-    const db::Pairs& pairs = record_.pairs;
-    if (pairs.count() > db::kShownPairs)
-      shown_.notice = file::named(name()) + " has " + std::to_string(pairs.count()) +
-                      " components: the window holds eight, and the others stay in the database unseen. "
-                      "Change this species with a text editor.";
-    const int rows = std::min(pairs.count(), db::kShownPairs);
-    std::vector<double> compno;  // of the rows that have one
-    for (int i = 0; i < rows; ++i)
-      if (!is_empty(pairs.compno(i))) compno.push_back(number(pairs.compno(i), "component number"));
-    const auto found = compno.empty() ? db::ComponentNames() : db::component_names(system, compdb, compno);
-    if (found.failure)
-      shown_.notice = "The components are shown by number: " + *found.failure +
-                      " Choose another component database, or mend this one." + (shown_.notice ? " " + *shown_.notice : "");
-    for (std::size_t i = 0, found_at = 0; i < static_cast<std::size_t>(rows); ++i) {
-      Row row;
-      row.stoich = numtext(number(pairs.stoich(static_cast<int>(i)), "stoichiometry"));
-      const db::Field& field = pairs.compno(static_cast<int>(i));
-      if (is_empty(field)) {
-        row.comp = "#";
-      } else {
-        row.comp = shown_name(found.names[found_at].value_or("#"), compno[found_at]);
-        ++found_at;
-      }
-      if (database_.mbfields) row.mbstoich = mb_text(field);
-      shown_.rows.push_back(std::move(row));
-    }
-  }
-
-  // Of several M.B. stoichiometries of a component the last counts.
-  std::string mb_text(const db::Field& compno) const {
-    const db::Pairs& pairs = record_.mb_pairs;
-    for (int i = pairs.count() - 1; i >= 0; --i)
-      if (pairs.compno(i).number() == compno.number())
-        return is_empty(pairs.stoich(i)) ? "" : numtext(number(pairs.stoich(i), "M.B. stoichiometry"));
-    return "";
-  }
-
-  const db::SpeciesReader& reader_;
-  const db::Record& record_;
-  const db::Database& database_;
-  Shown shown_;
-};
+  if (!shown.lk2_caption.empty()) boxes.lk2 = " " + numtext(number(db::kLk2, "the second constant"));
+  boxes.logk = " " + numtext(number(db::kLogK, "the log K"));
+  boxes.dhr = " " + numtext(number(db::kDhr, "the dHr"));
+  if (open.isomodel == "NICA" || open.cdbfile()) boxes.ksel = " " + numtext(number(db::kKsel, "the K-sel"));
+  boxes.charge = numtext(number(db::kCharge, "the charge"));
+  const double components = number(db::kComponents, "the number of components");
+  boxes.nocomp = numtext(components > db::kMbBlock ? components - db::kMbBlock : components);
+  show_rows(system, open, reader, record, shown);
+  return shown;
+}
 
 }  // namespace
 
@@ -113,13 +84,18 @@ IdRange range_of(double id) {
   return IdRange::None;
 }
 
-std::optional<Shown> show_species(file::System& system, db::Database& open, const std::string& compdb,
-                                  std::string_view name) {
+std::optional<Shown> show_species(file::System& system, db::Database& open, std::string_view name) {
   db::SpeciesReader reader(system, open.path);
   if (const auto read = reader.read_leading(db::leading_by_name(open)); read.model) open.isomodel = *read.model;
   while (const db::Record* record = reader.next())
-    if (record->name() == name) return Display(reader, *record, open).shown(system, compdb);
+    if (record->name() == name) return shown_of(system, open, reader, *record);
   return std::nullopt;
+}
+
+bool is_mark(std::string_view name) { return name == "#" || (name.starts_with('#') && number_of_mark(name)); }
+
+std::string shown_name(std::string_view name, double number) {
+  return is_mark(name) ? "#" + db::format_number(number) : std::string(name);
 }
 
 }  // namespace edit

@@ -2,9 +2,16 @@
 
 #include <algorithm>
 
+#include "db/components.h"
 #include "db/format.h"
+#include "edit/display.h"
 
 namespace edit {
+namespace {
+
+bool between(double n, double low, double high) { return n > low && n < high; }
+
+}  // namespace
 
 const std::vector<Model>& models() {
   static const std::vector<Model> kModels{
@@ -30,6 +37,33 @@ const Model& model(std::string_view name) {
   static const Model kOther{};
   const auto found = std::ranges::find(models(), name, &Model::name);
   return found == models().end() ? kOther : *found;
+}
+
+bool is_offered(double n, std::string_view isomodel, bool cdbfile) {
+  // Surface sites and their potentials belong to complexation, the isotherm sites from 1300 on to their model.
+  if (isomodel.empty() ? between(n, 1300, 1360) : between(n, 810, 860) || between(n, 1101, 1111)) return false;
+  const Model& its = model(isomodel);
+  if (n > its.last_offered || between(n, 1300, its.first_offered)) return false;
+
+  if (n < 3 || between(n, 816, 859) || between(n, 1330, 1339) || (n >= 144 && n <= 149) || between(n, 916, 921) || n == 1104)
+    return false;
+  return cdbfile || !(n > 951 && n <= 1101);  // exchangers
+}
+
+Choices component_choices(file::System& system, const db::Database& open) {
+  Choices choices;
+  try {
+    db::ComponentReader reader(system, open.compdb, db::kListingRecords);
+    for (db::Component component; reader.next(component);)
+      if (const auto number = component.number.number(); number && is_offered(*number, open.isomodel, open.cdbfile()))
+        choices.names.push_back(shown_name(db::site_name(*number).value_or(component.name.text), *number));
+  } catch (const file::Error& error) {
+    choices.names.clear();
+    choices.failure = std::string("The components cannot be listed: ") + error.what() +
+                      " Choose another component database, or mend this one.";
+  }
+  choices.names.emplace_back("H2O");
+  return choices;
 }
 
 }  // namespace edit

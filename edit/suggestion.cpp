@@ -4,8 +4,10 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <vector>
 
-#include "db/field.h"
+#include "db/components.h"
+#include "db/species_reader.h"
 #include "edit/models.h"
 
 namespace edit {
@@ -19,12 +21,12 @@ double as_written(double id) {
 
 }  // namespace
 
-void look_up(file::System& system, const std::string& compdb, const std::string& comp1, const std::string& comp2,
+void look_up(file::System& system, const db::Database& open, const std::string& comp1, const std::string& comp2,
              IdBase& base) {
   const std::array names{std::string(db::trimmed(comp1)), std::string(db::trimmed(comp2))};
-  const auto found = db::component_numbers(system, compdb, names, db::NameMatch::AsRead);
-  if (const auto at = found.find(names[0]); at != found.end()) base.first = at->second.value.value_or(0);
-  if (const auto at = found.find(names[1]); at != found.end()) base.second = at->second.value.value_or(0);
+  const auto found = db::component_numbers(system, open.compdb, names, db::NameMatch::AsRead);
+  if (const auto at = found.find(names[0]); at != found.end()) base.first = at->second.value_or(0);
+  if (const auto at = found.find(names[1]); at != found.end()) base.second = at->second.value_or(0);
 }
 
 IdBase with_site(IdBase base, std::string_view isomodel, std::string_view first_component) {
@@ -36,11 +38,15 @@ IdBase with_site(IdBase base, std::string_view isomodel, std::string_view first_
 
 double first_candidate(const IdBase& base) { return base.first * 10000 + base.second * 10; }
 
-double free_id(const IdBase& base, std::vector<double> used) {
+double free_id(file::System& system, const db::Database& open, const IdBase& base) {
+  std::vector<double> used;
+  db::SpeciesReader reader(system, open.path);
+  reader.read_leading(db::leading_by_name(open));
+  while (const db::Record* record = reader.next())
+    if (const auto id = record->head[db::kId].number()) used.push_back(as_written(*id));
   const double candidate = first_candidate(base), exchanged = first_candidate({base.second, base.first});
   if (!std::isfinite(candidate) || !std::isfinite(exchanged))
     throw file::Refusal("The component numbers are too large to build an ID number of. Type one.");
-  for (double& id : used) id = as_written(id);
   std::ranges::sort(used);
   const auto is_free = [&](double id) { return !std::ranges::binary_search(used, as_written(id)); };
   for (int i = 0; i < 10; ++i)
@@ -50,15 +56,6 @@ double free_id(const IdBase& base, std::vector<double> used) {
   double id = exchanged + 11;
   while (!is_free(id)) id = std::max(id + 1, std::nextafter(id, std::numeric_limits<double>::infinity()));
   return id;
-}
-
-double free_id(file::System& system, const db::Database& open, const IdBase& base) {
-  std::vector<double> used;
-  db::SpeciesReader reader(system, open.path);
-  reader.read_leading(db::leading_by_name(open));
-  while (const db::Record* record = reader.next())
-    if (const auto id = record->head[db::kId].number()) used.push_back(*id);
-  return free_id(base, std::move(used));
 }
 
 }  // namespace edit

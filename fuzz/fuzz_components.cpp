@@ -4,7 +4,7 @@
 
 #include "bytes_system.h"
 #include "db/components.h"
-#include "edit/choices.h"
+#include "edit/models.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
   fuzz::BytesSystem system({reinterpret_cast<const char*>(data), size}, size % 2 == 0 ? 5 : 65536);
@@ -19,7 +19,11 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
     } catch (const file::Error&) {
     }
   }
-  const auto choices = edit::component_choices(system, "c", size % 3 == 0 ? "NICA" : "", size % 5 == 0);
+  const auto choices =
+      edit::component_choices(system, {.path = "",
+                                       .compdb = "c",
+                                       .kind = size % 5 == 0 ? db::Kind::Counterion : db::Kind::Complexation,
+                                       .isomodel = size % 3 == 0 ? "NICA" : ""});
   fuzz::require(!choices.names.empty() && choices.names.back() == "H2O" && choices.names.size() <= 501);
   return 0;
 }

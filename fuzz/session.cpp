@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "db/field.h"
+#include "db/field_reader.h"
 
 namespace fuzz {
 

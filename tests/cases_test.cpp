@@ -18,10 +18,10 @@
 #include <vector>
 
 #include "app/controls.h"
-#include "app/start_up.h"
+#include "app/frmMaindb.h"
 #include "db/components.h"
 #include "db/rewrite.h"
-#include "edit/choices.h"
+#include "edit/models.h"
 #include "edit/suggestion.h"
 #include "edit/values.h"
 #include "support/story.h"
@@ -62,6 +62,9 @@ std::string plain(std::string_view text) {
   return result;
 }
 
+// A database as it is when it has just been opened.
+db::Database opened(const std::string& path) { return {.path = path, .compdb = "comp.mdb", .kind = db::kind_of(path)}; }
+
 std::string number_or(const std::optional<double>& value, const char* none) {
   return value ? db::format_number(*value) : none;
 }
@@ -91,7 +94,7 @@ std::string rewrite(const Arguments& arguments) {
   system.add(name, content);
   try {
     const std::string model = arguments.size() > 2 ? arguments[2] : "";
-    db::Rewrite rewrite(system, db::database_at(name), "comp.mdb", {.model = model, .critical_f = .5});
+    db::Rewrite rewrite(system, opened(name), {.model = model, .critical_f = .5});
     EXPECT_FALSE(rewrite.keep_until(std::nullopt));
     EXPECT_EQ(rewrite.commit(), std::nullopt);
   } catch (const file::Error& error) {
@@ -130,12 +133,14 @@ std::string free_id(const Arguments& arguments) {
   edit::IdBase base;
   components >> base.first >> base.second;
   try {
-    std::vector<double> numbers;
+    MemorySystem system;
+    std::string species;
     for (std::string range; used >> range;)
       for (int i = 0, count = range.find('*') == range.npos ? 1 : std::stoi(range.substr(range.find('*') + 1)); i < count;
            ++i)
-        numbers.push_back(std::stod(range) + i);
-    return db::format_number(edit::free_id(base, numbers));
+        species += db::format_number(std::stod(range) + i) + ",\"a\",0,0,0,0,0,0,0,0,0,0\r\n";
+    system.add("x.mdb", species);
+    return db::format_number(edit::free_id(system, opened("x.mdb"), base));
   } catch (const file::Refusal& refusal) {
     return refusal.what();
   }
@@ -156,7 +161,7 @@ std::string lookup(const Arguments& arguments) {
   for (const auto match : {db::NameMatch::Trimmed, db::NameMatch::AsRead}) {
     try {
       const auto found = db::component_numbers(system, "c", {&arguments[2], 1}, match);
-      result += ", " + (found.empty() ? "none" : number_or(found.begin()->second.value, "empty"));
+      result += ", " + (found.empty() ? "none" : number_or(found.begin()->second, "empty"));
     } catch (const file::Error& error) {
       result += std::string(", ") + error.what();
     }
@@ -169,17 +174,18 @@ std::string display(const Arguments& arguments) {
   MemorySystem system;
   system.add(arguments[0], arguments[1]);
   system.add("comp.mdb", support::kComponents);
-  db::Database open = db::database_at(arguments[0]);
+  db::Database open = opened(arguments[0]);
   try {
     open.mbfields = open.kind == db::Kind::Isotherm;
-    const auto shown = edit::show_species(system, open, "comp.mdb", arguments[2]);
+    const auto shown = edit::show_species(system, open, arguments[2]);
     if (!shown) return "none";
-    std::string all = "[" + shown->id + "][" + shown->name + "][" + shown->logk + "][" + shown->dhr + "][" + shown->charge +
-                      "][" + shown->nocomp + "]";
-    if (shown->ksel) all += " ksel [" + *shown->ksel + "]";
-    if (shown->lk2) all += " " + shown->lk2_caption + " [" + *shown->lk2 + "]";
+    const edit::Entry& boxes = shown->boxes;
+    std::string all = "[" + boxes.id + "][" + boxes.name + "][" + boxes.logk + "][" + boxes.dhr + "][" + boxes.charge +
+                      "][" + boxes.nocomp + "]";
+    if (boxes.ksel) all += " ksel [" + *boxes.ksel + "]";
+    if (boxes.lk2) all += " " + shown->lk2_caption + " [" + *boxes.lk2 + "]";
     if (shown->ksel_is_m_ref) all += " m-ref";
-    for (const edit::Row& row : shown->rows) all += " [" + row.stoich + "][" + row.comp + "][" + row.mbstoich + "]";
+    for (const edit::Row& row : boxes.rows) all += " [" + row.stoich + "][" + row.comp + "][" + row.mbstoich + "]";
     return all + (shown->notice ? " " + *shown->notice : "");
   } catch (const file::Error& error) {
     return error.what();
@@ -235,7 +241,7 @@ const std::map<std::string, std::function<std::string(const Arguments&)>> kOpera
      [](const Arguments& a) {
        MemorySystem system;
        system.add("c", a[0]);
-       const auto choices = edit::component_choices(system, "c", "", false);
+       const auto choices = edit::component_choices(system, {.path = "", .compdb = "c"});
        std::string all;
        for (const std::string& name : choices.names) all += "[" + name + "]";
        return all + (choices.failure ? " " + *choices.failure : "");
@@ -293,8 +299,8 @@ TEST(Fields, DoNotDependOnWhereABlockEnds) {
   for (const std::string tail : {"\r\n\"a,b\" x,  7  ,y", "\r\r\n,  \"q\"\r\n"}) {
     const std::string plain = fields({tail});
     EXPECT_EQ(fields({std::string(57342, 'z') + "," + std::string(65536, 'x') + tail}), "[57342][65536]" + plain.substr(2))
-        << "a field of the greatest length, at the end of a block";
-    for (std::size_t before = 120 * 1024 - 8; before < 120 * 1024 + 4; ++before) {
+        << "a field of the greatest length, across two blocks";
+    for (std::size_t before = 64 * 1024 - 8; before < 64 * 1024 + 4; ++before) {
       std::string text;
       while (text.size() + 9 < before) text += "12345678,";
       text.append(before - text.size(), 'z');

@@ -61,7 +61,7 @@ std::string Player::state() {
     for (const std::string& entry : control.entries) block += "  [" + entry + "]\n";
   }
   const app::frmMaindb::State& state = form.state();
-  text("compdb", state.compdb);
+  text("compdb", state.open.compdb);
   text("\ndbname", state.open.path);
   flag("\nblifile", state.open.blifile());
   flag("cdbfile", state.open.cdbfile());

@@ -10,7 +10,7 @@
 
 #include "app/controls.h"
 #include "db/database.h"
-#include "edit/species_record.h"
+#include "edit/display.h"
 #include "edit/suggestion.h"
 #include "file/error.h"
 #include "ui/dialogs.h"
@@ -18,15 +18,19 @@
 
 namespace app {
 
+// Started in one of the two folders of the development environment the editor works in Kelmar's installation folder
+// instead; everywhere else in the folder it was started in.
+std::string working_folder(std::string_view current_folder);
+
 class frmMaindb final : public ui::Form {
  public:
   frmMaindb(ui::Dialogs& dialogs, file::System& system);
 
   // What the window holds beside its controls, for the life of the program. Documented names that have no variable of their
-  // own: dbname, isomodel, isoselect, mbfields are in `open`, which tells blifile and cdbfile by its kind; compno, stoich,
-  // mbstoich, mbcompno and compname live no longer than one event; numgenerator3 is edit::numbers_of, all rows in one pass.
+  // own: dbname, compdb, isomodel, isoselect, mbfields are in `open`, which tells blifile and cdbfile by its kind; compno,
+  // stoich, mbstoich, mbcompno and compname live no longer than one event; numgenerator3 is a part of edit::species_record,
+  // all rows in one pass.
   struct State {
-    std::string compdb;         // path of the component database
     db::Database open;          // the species database
     std::string changedone;     // "N" once a save has begun: its "Y" between two records is seen by nobody
     bool suggestrun = false;    // a suggestion is running: a selection shows nothing
@@ -42,9 +46,7 @@ class frmMaindb final : public ui::Form {
   void click(int control) override;
 
  private:
-  template <typename Handler>
-  void run(Handler handler);
-  void run_handler(int control);
+  void run(void (frmMaindb::*handler)());
 
   // Start-up and the ways out (frmMaindb.cpp).
   void Form_Load();
@@ -76,6 +78,7 @@ class frmMaindb final : public ui::Form {
   void show(std::initializer_list<int> controls) { set_shown(controls, true); }
   void hide(std::initializer_list<int> controls) { set_shown(controls, false); }
   void set_shown(std::initializer_list<int> controls, bool shown);
+  void show_row(int i);
   void hide_rows();
   void empty_rows();
   void add_species(std::string name);

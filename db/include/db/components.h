@@ -56,11 +56,8 @@ struct ComponentNames {
 // kLookupRecords. A number that is in none of them has no name, that of a surface site neither.
 ComponentNames component_names(file::System& system, const std::string& path, std::span<const double> numbers);
 
-// The number of a component found by its name; without a value when its record has an empty number field.
-struct ComponentNumber {
-  std::optional<double> value;
-};
-using FoundNumbers = std::map<std::string, ComponentNumber, std::less<>>;
+// By name; nothing where the record of that name has an empty number field.
+using FoundNumbers = std::map<std::string, std::optional<double>, std::less<>>;
 
 enum class NameMatch { Trimmed, AsRead };  // what of the record's name is compared
 

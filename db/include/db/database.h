@@ -1,10 +1,8 @@
 // The open species database, as every operation on it has to know it.
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
 
 namespace db {
 
@@ -12,35 +10,30 @@ namespace db {
 // mixed case does not: x.Iso is a complexation database.
 enum class Kind { Complexation, Counterion, Isotherm, NicaDonnan, Blm };
 
+struct KindName {
+  std::string_view name, extension, lower;
+};
+constexpr KindName name_of(Kind kind) {
+  constexpr KindName kNames[] = {{"a complexation / sorption database", "MDB", "mdb"},
+                                 {"a counterion selectivity database", "CDB", "cdb"},
+                                 {"an isotherm database", "ISO", "iso"},
+                                 {"a NICA-Donnan database", "NIC", "nic"},
+                                 {"a BLM parameter database", "BLI", "bli"}};
+  return kNames[static_cast<int>(kind)];
+}
+
 constexpr Kind kind_of(std::string_view path) {
-  const auto ends = [path](std::string_view upper, std::string_view lower) {
-    return path.ends_with(upper) || path.ends_with(lower);
-  };
-  if (ends("CDB", "cdb")) return Kind::Counterion;
-  if (ends("ISO", "iso")) return Kind::Isotherm;
-  if (ends("NIC", "nic")) return Kind::NicaDonnan;
-  if (ends("BLI", "bli")) return Kind::Blm;
+  for (const Kind kind : {Kind::Counterion, Kind::Isotherm, Kind::NicaDonnan, Kind::Blm})
+    if (path.ends_with(name_of(kind).extension) || path.ends_with(name_of(kind).lower)) return kind;
   return Kind::Complexation;
 }
 
 // The one counterion selectivity database whose K-sel values are not shown.
 constexpr bool is_donnica(std::string_view path) { return path.ends_with("donnica.cdb"); }
 
-struct KindName {
-  std::string_view name, extension;
-};
-constexpr KindName name_of(Kind kind) {
-  switch (kind) {
-    case Kind::Counterion: return {"a counterion selectivity database", "CDB"};
-    case Kind::Isotherm: return {"an isotherm database", "ISO"};
-    case Kind::NicaDonnan: return {"a NICA-Donnan database", "NIC"};
-    case Kind::Blm: return {"a BLM parameter database", "BLI"};
-    default: return {"a complexation / sorption database", "MDB"};
-  }
-}
-
 struct Database {
   std::string path{};
+  std::string compdb{};  // of the component database by which its components are named, and which is never written
   // By the path that it was opened under. It stays when the content is saved under another name: the file is written as
   // what it is, whatever its name says.
   Kind kind = Kind::Complexation;
@@ -53,12 +46,6 @@ struct Database {
   bool blifile() const { return kind == Kind::Blm; }
   bool cdbfile() const { return kind == Kind::Counterion; }
 };
-
-// As it is when it has just been opened.
-inline Database database_at(std::string path) {
-  const Kind kind = kind_of(path);
-  return {.path = std::move(path), .kind = kind};
-}
 
 // Which fields stand before the first record: the isotherm model (or "NICA-Donnan"); two texts and the critical f value.
 struct Leading {
@@ -73,8 +60,5 @@ inline Leading leading_by_name(const Database& open) {
   const bool model = leading_of(kind_of(open.path)).model;
   return {.model = model, .blm = !model && open.blifile()};
 }
-
-// What the user has to be told when the name of the file says another kind than it holds.
-std::optional<std::string> misnamed(const Database& open);
 
 }  // namespace db

@@ -2,18 +2,51 @@
 // Fields are separated by commas and by line ends (CR LF, LF or CR), which mean the same. doc/file-format.md has it all.
 #pragma once
 
-#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
-#include <vector>
+#include <string_view>
 
-#include "db/field.h"
 #include "db/format.h"
+#include "db/number.h"
 #include "file/input.h"
 
 namespace db {
+
+// Without the blanks at both ends. A blank is the space character only.
+constexpr std::string_view trimmed(std::string_view text) {
+  const auto first = text.find_first_not_of(' ');
+  return first == std::string_view::npos ? std::string_view() : text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+enum class FieldType { Empty, Number, Text };
+
+// One field as read: a view into what its reader holds, converted only when asked for. `text` is the value without quotes
+// and surrounding blanks.
+struct Field {
+  std::string_view text;
+  bool quoted = false;
+
+  // A quoted field is text, whatever it holds; `""` is a text too.
+  FieldType type() const {
+    if (quoted) return FieldType::Text;
+    if (text.empty()) return FieldType::Empty;
+    return parse_number(text) ? FieldType::Number : FieldType::Text;
+  }
+
+  // The value where a number is needed: an empty field counts as 0, and a text that reads as a number as that number.
+  // Nothing for any other text.
+  std::optional<double> number() const {
+    if (text.empty()) return quoted ? std::nullopt : std::optional<double>(0);
+    return parse_number(text);
+  }
+
+  // number() == 0. Most numbers show by their first digit that they are not.
+  bool is_zero() const { return (text.empty() || text.front() < '1' || text.front() > '9') && number() == 0.; }
+};
 
 // What is wrong with a field, without file and record; the readers of records add those.
 class FieldError : public file::Error {
@@ -40,23 +73,26 @@ class FieldReader {
   const std::string& name() const { return input_.name(); }
 
  private:
-  // Room for what is left of the last block, for what is read, and for a line end after it that stops every search.
-  using Block = std::array<char, 120 * 1024>;
-  static constexpr std::size_t kLeastRead = 4 * 1024;  // with less room than this a new block begins
-  static_assert(sizeof(Block) > kLongestField + kLeastRead);
+  static constexpr std::size_t kBlock = 64 * 1024;  // bytes read at a time
+  static constexpr std::size_t kMostFields = 64;    // between two calls of forget(), each as long as can be
+  // Of it only what is read into takes memory.
+  static constexpr std::size_t kRoom = kMostFields * (kLongestField + kLineEnd.size()) + 3 * kBlock;
 
-  bool refill(const char*& at);
-  bool at_end();
+  bool refill();
+  bool at_end() { return next_ == end_ && !refill(); }
   bool only_blanks_left() const;
+  const char* after_separator(const char* at) const;
   bool next_of_any_kind(Field& field);
 
   file::Input input_;
-  std::vector<std::unique_ptr<Block>> blocks_;  // those that fields of this record may point into; the last is current
-  std::unique_ptr<Block> spare_;
-  const char* next_;          // the first byte that belongs to no field yet
-  const char* end_;           // after the last byte read
-  std::uint64_t offset_ = 0;  // of end_, in the file
+  std::unique_ptr<char[]> bytes_;  // a part of the file, and a line end after it that stops every search
+  const char* next_;               // the first byte that belongs to no field yet
+  const char* end_;                // after the last byte read
+  std::uint64_t offset_ = 0;       // of end_, in the file
   bool file_ended_ = false;
 };
+
+// The first field of a file, as text. Throws file::Error, also when there is none.
+std::string first_field(file::System& system, const std::string& path);
 
 }  // namespace db

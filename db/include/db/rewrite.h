@@ -5,15 +5,11 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
 
 #include "db/species_reader.h"
 #include "file/replacement.h"
 
 namespace db {
-
-// The component database is never written.
-inline file::Spared spare_components(std::string compdb) { return {std::move(compdb), "the component database"}; }
 
 inline constexpr const char* kTemporaryFile = "dbnamep.mdb";  // in the working folder, during a rewrite only
 
@@ -24,14 +20,16 @@ struct NewLeading {
 };
 
 // Copies the open database to a new path, with the result of file::copy_over. Throws file::Refusal or file::Error.
-[[nodiscard]] std::optional<std::string> copy_to(file::System& system, const Database& database, const std::string& path,
-                                                 const std::string& compdb);
+[[nodiscard]] std::optional<std::string> copy_to(file::System& system, const Database& open, const std::string& path);
+
+// What the user has to be told when the name of the file says another kind than it holds.
+std::optional<std::string> misnamed(const Database& open);
 
 class Rewrite {
  public:
   // Begins with the leading fields of the kind held, whatever the path says. Throws file::Refusal or file::Error when the
   // database cannot be replaced or read.
-  Rewrite(file::System& system, const Database& database, const std::string& compdb, const NewLeading& leading);
+  Rewrite(file::System& system, const Database& open, const NewLeading& leading);
 
   // Copies old records as they are up to the next one of this name, which is left out; false at the end of the list, and
   // without a name. Throws file::Error.

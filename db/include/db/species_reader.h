@@ -20,28 +20,13 @@ namespace db {
 enum HeadField { kId, kName, kDhr, kLogK, kKsel, kLk2, kCharge, kUnused8, kUnused9, kUnused10, kUnused11, kComponents };
 inline constexpr int kHeadFields = 12;
 
-// Pairs of a stoichiometry and the number of the component that it belongs to.
-class Pairs {
- public:
-  int count() const { return count_; }
-  const Field& stoich(int i) const { return fields_[static_cast<std::size_t>(2 * i)]; }
-  const Field& compno(int i) const { return fields_[static_cast<std::size_t>(2 * i + 1)]; }
-  // All of them, in file order.
-  std::span<const Field> fields() const { return {fields_.data(), static_cast<std::size_t>(2 * count_)}; }
-
- private:
-  friend class SpeciesReader;
-  std::array<Field, 2 * kMaxPairs> fields_;
-  int count_ = 0;
-};
-
 // One species as the file holds it. All fields are views that end when the next record is read.
 struct Record {
   std::array<Field, kHeadFields> head;
-  Pairs pairs;
+  std::vector<Field> pairs;  // a stoichiometry and the number of its component, in turn
   bool has_mb = false;
-  Field mb_count;  // the number of M.B. pairs as it stands in the file
-  Pairs mb_pairs;
+  Field mb_count;               // the number of M.B. pairs as it stands in the file
+  std::vector<Field> mb_pairs;  // the same of the M.B. stoichiometries
 
   std::string_view name() const { return head[kName].text; }
 };
@@ -79,6 +64,8 @@ class SpeciesReader {
   // trailer. Reads on to the end of the file.
   bool hides_more();
 
+  // The value of a field of the record that was read last, in which text is an error; `what` it is to the user.
+  double number(const Field& field, const char* what) const;
   // Throws file::Error, or file::Refusal, about the record that was read last.
   [[noreturn]] void fail(const std::string& reason) const { throw file::Error(located_text(reason)); }
   [[noreturn]] void refuse(const std::string& reason) const { throw file::Refusal(located_text(reason)); }
@@ -88,8 +75,7 @@ class SpeciesReader {
   template <typename Read>
   auto located(Read read);
   void require(std::span<Field> fields);
-  static double number(const Field& field, const char* what);
-  void read_pairs(Pairs& pairs, double count, const char* what);
+  void read_pairs(std::vector<Field>& pairs, double count, const char* what);
   const Record* read_record();
 
   FieldReader fields_;

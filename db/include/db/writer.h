@@ -20,7 +20,7 @@ class LineWriter {
   void end() { out_ += kLineEnd; }
 
  private:
-  void separate();
+  std::string& next();  // the line, ready for one more value
 
   std::string& out_;
   bool first_ = true;

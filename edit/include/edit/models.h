@@ -1,11 +1,17 @@
-// What the isotherm models differ in. The model of a database stands in its leading field.
+// What the isotherm models differ in, and which components a new species may be built from.
 #pragma once
 
+#include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
+#include "db/database.h"
+#include "file/system.h"
+
 namespace edit {
 
+// The model of a database stands in its leading field.
 struct Model {
   std::string_view name;
   std::string_view logk_caption{};  // none: that of before stays
@@ -27,5 +33,17 @@ struct Model {
 const std::vector<Model>& models();
 // The model of this name; for any other name one without a caption and with all components.
 const Model& model(std::string_view name);
+
+// Whether the component with this number is offered.
+bool is_offered(double number, std::string_view isomodel, bool cdbfile);
+
+struct Choices {
+  std::vector<std::string> names;      // in the order of the component database, then "H2O"
+  std::optional<std::string> failure;  // what kept the component database from being read
+};
+
+// Reads at most the first 500 components. A record with text in place of its number is passed over; one cut short ends
+// the list. A file that cannot be read leaves "H2O" alone.
+Choices component_choices(file::System& system, const db::Database& open);
 
 }  // namespace edit

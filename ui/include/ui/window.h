@@ -33,8 +33,8 @@ struct Color {
 struct ControlDef {
   std::string name{};
   Kind kind = Kind::Label;
-  std::string_view caption{};  // a label's, button's or menu item's text at the start
-  bool shown = true;           // at the start
+  std::string caption{};  // a label's, button's or menu item's text at the start
+  bool shown = true;      // at the start
   Place place{};
   Place drawn{};       // where it is drawn, if a little beside its place; no width: there
   Place elsewhere{};   // where it stands while shown boxes lie over its place; no width: nowhere else
@@ -62,8 +62,8 @@ struct WindowDef {
 struct Control {
   std::string text;  // of a list box: unused, see selected_text()
   bool shown = true;
-  std::vector<std::string> entries;  // of a list box or combo box
-  int selected = -1;                 // entry of a list box
+  std::vector<std::string> entries{};  // of a list box or combo box
+  int selected = -1;                   // entry of a list box
 
   std::string_view selected_text() const {
     return selected < 0 ? std::string_view() : std::string_view(entries[static_cast<std::size_t>(selected)]);
