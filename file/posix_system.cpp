@@ -6,9 +6,8 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <climits>
 #include <csignal>
-#include <cstdlib>
+#include <filesystem>
 #include <thread>
 
 #include "file/system.h"
@@ -110,10 +109,8 @@ class PosixSystem final : public System {
     if (error == std::errc::no_lock_available || error == std::errc::function_not_supported)
       error = make_error_code(std::errc::not_supported);
     // Whoever had it may just have put another file under the name: that one is not ours yet.
-    struct stat locked {};
-    struct stat named {};
-    if (!error && (::fstat(fd, &locked) != 0 || ::lstat(path.c_str(), &named) != 0 || locked.st_dev != named.st_dev ||
-                   locked.st_ino != named.st_ino))
+    Status locked, named;
+    if (!error && (status(opened, locked) || status(path, Follow::Nothing, named) || !locked.same_file(named)))
       error = make_error_code(std::errc::operation_would_block);
     if (error)
       ::close(fd);
@@ -140,25 +137,23 @@ class PosixSystem final : public System {
   // counts. Who may only execute the file does not, and whose it is neither, as long as group and permissions are the same.
   std::error_code take_over(Handle handle, const std::string& path) override {
     const int fd = descriptor(handle);
-    struct stat like {};
-    struct stat now {};
+    struct stat like {
+    }, now{};
     if (::stat(path.c_str(), &like) != 0) return last_error();
-    std::error_code error;
+    std::error_code error = make_error_code(std::errc::operation_not_permitted);
     if (::fchown(fd, like.st_uid, like.st_gid) != 0 && ::fchown(fd, static_cast<uid_t>(-1), like.st_gid) != 0)
       error = last_error();
     if (::fstat(fd, &now) != 0) return last_error();
     constexpr mode_t kReadAndWrite = S_IROTH | S_IWOTH;
     const bool has_list = ::getxattr(path.c_str(), kAccessList, nullptr, 0) > 0;  // for which the mode shows only its mask
     const bool group_matters = has_list || ((like.st_mode >> 3) & kReadAndWrite) != (like.st_mode & kReadAndWrite);
-    if (now.st_gid != like.st_gid && group_matters)
-      return error ? error : make_error_code(std::errc::operation_not_permitted);
+    if (now.st_gid != like.st_gid && group_matters) return error;
     // Before the mode, which would lend what a list withholds; the mode after the owner, whose change clears some bits.
     if (const auto failed = copy_attributes(fd, path)) return failed;
     if (::fchmod(fd, like.st_mode & 07777) != 0) error = last_error();
     if (::fstat(fd, &now) != 0) return last_error();
     const bool same_mode = ((now.st_mode ^ like.st_mode) & (S_IRUSR | S_IWUSR | S_IRGRP | S_IWGRP | kReadAndWrite)) == 0;
-    if (same_mode) return {};
-    return error ? error : make_error_code(std::errc::operation_not_permitted);
+    return same_mode ? std::error_code() : error;
   }
 
   std::error_code flush(Handle handle) override { return checked(::fsync(descriptor(handle))); }
@@ -195,11 +190,9 @@ class PosixSystem final : public System {
   }
 
   std::error_code without_links(const std::string& path, std::string& real) override {
-    char* resolved = ::realpath(path.c_str(), nullptr);
-    if (resolved == nullptr) return last_error();
-    real = resolved;
-    std::free(resolved);  // NOLINT(cppcoreguidelines-no-malloc): realpath gives it so
-    return {};
+    std::error_code error;
+    real = std::filesystem::canonical(path, error).string();
+    return error;
   }
 
   std::error_code rename(const std::string& from, const std::string& to) override {
@@ -218,10 +211,9 @@ class PosixSystem final : public System {
   }
 
   std::error_code current_folder(std::string& folder) override {
-    char path[PATH_MAX];
-    if (::getcwd(path, sizeof path) == nullptr) return last_error();
-    folder = path;
-    return {};
+    std::error_code error;
+    folder = std::filesystem::current_path(error).string();
+    return error;
   }
 
   std::error_code change_folder(const std::string& folder) override { return checked(::chdir(folder.c_str())); }

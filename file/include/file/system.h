@@ -1,8 +1,8 @@
 // What the program asks of the operating system's files: one method a call, so that a test can make each one fail.
 // Paths are bytes as the system takes them. Every method reports its failure as an error code and throws nothing; what a
 // failure means is the caller's business (see input.h for reading and replacement.h for replacing a file).
-// Rejected: std::filesystem and streams. They cannot flush to the disk, create a file exclusively, lock it, or say that
-// a write came back short.
+// Rejected: std::filesystem and streams for all of it. They cannot flush to the disk, create a file exclusively, lock it, or
+// say that a write came back short.
 #pragma once
 
 #include <array>
