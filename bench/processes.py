@@ -10,7 +10,7 @@ from Xlib import XK, X, display
 from Xlib.ext import xtest
 
 LONGEST_WAIT = 30  # seconds, for anything
-STARTS, MEMORIES = 75, 5
+STARTS, MEMORIES = 151, 5
 SPECIES = 3999
 PARTS, HELD, FAST = 20, 20, 179  # of the way down the list; keys in each that are held and measured, and that are not
 PAUSE = 1 / 30  # seconds between the keys that a held key gives
