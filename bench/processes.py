@@ -6,7 +6,7 @@ import statistics
 import subprocess
 import time
 
-from Xlib import XK, X, display
+from Xlib import XK, X, display, error
 from Xlib.ext import xtest
 
 LONGEST_WAIT = 30  # seconds, for anything
@@ -45,8 +45,11 @@ class Screen:
 
     def window(self):
         for child in self.root.query_tree().children:
-            if child.get_attributes().map_state == X.IsViewable:
-                return child
+            try:
+                if child.get_attributes().map_state == X.IsViewable:
+                    return child
+            except error.BadWindow:  # it has just gone
+                pass
         return None
 
     def picture(self, left, top, width, height):
