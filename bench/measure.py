@@ -66,7 +66,8 @@ def measure_saving():
         finally:
             os.chdir(here)
     row("save: read, replace one record, format all, against the floor", content, floor, 5)
-    row("save as a whole on a disk in memory, less its file operations alone, against the floor", save - operations, floor, 5)
+    row("save as a whole on a disk in memory, less its file operations alone, against the floor", save - operations,
+        floor, 5)
 
 
 def measure_window():

@@ -9,13 +9,15 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QStringListModel>
+#include <QTransform>
 #include <algorithm>
 
 #include "app/controls.h"
 
 namespace {
 
-constexpr double kPixelsPerTwip = 1 / 11.5;
+// Pixels of a twip: the window becomes as large as the program makes it with the usual letters, 796 by 681 pixels.
+const QTransform kScale = QTransform::fromScale(1 / 11.51, 1 / 12.01);
 
 QString text_of(const ui::ControlDef& def) { return QString::fromLatin1(def.caption.data(), def.caption.size()); }
 
@@ -81,12 +83,11 @@ int main(int argc, char** argv) {
     font.setBold(control.font.bold);
     font.setItalic(control.font.italic);
     widget->setFont(font);
-    widget->setGeometry(QRectF(control.drawn.left * kPixelsPerTwip, control.drawn.top * kPixelsPerTwip,
-                               control.drawn.width * kPixelsPerTwip, std::max(control.drawn.height * kPixelsPerTwip, 1.))
-                            .toRect());
+    const ui::Place& place = control.drawn;
+    widget->setGeometry(kScale.mapRect(QRect(place.left, place.top, place.width, std::max(place.height, 15))));
     widget->setVisible(control.shown);
   }
-  window.resize(QSizeF(def.width * kPixelsPerTwip, def.height * kPixelsPerTwip).toSize());
+  window.resize(kScale.mapRect(QRect(0, 0, def.width, def.height)).size() + QSize(0, window.menuBar()->sizeHint().height()));
   window.show();
   return QApplication::exec();
 }

@@ -139,7 +139,7 @@ class Program:
 
 
 def compare(screen, program, plain):
-    """How much longer the program takes from its start to its painted window than the plain one, and how much more memory."""
+    """Seconds from the start to the painted window, and KiB of memory, of the program and of the plain one."""
     both = (Program(screen, program), Program(screen, plain))
     times, memories = {p: [] for p in both}, {p: [] for p in both}
     for i in range(STARTS):
