@@ -7,17 +7,24 @@
 #include "db/field_reader.h"
 
 namespace db {
+namespace {
+
+struct Site {
+  double number;
+  std::string_view name;
+};
+constexpr Site kSites[] = {{812, "=SOH"}, {816, "=S3O"}, {811, "=SOHh"}};
+
+}  // namespace
 
 std::optional<std::string_view> site_name(double number) {
-  for (const Site& site : kSites)
-    if (site.number == number) return site.name;
-  return std::nullopt;
+  const auto* const site = std::ranges::find(kSites, number, &Site::number);
+  return site == std::end(kSites) ? std::nullopt : std::optional(site->name);
 }
 
 std::optional<double> site_number(std::string_view name) {
-  for (const Site& site : kSites)
-    if (site.name == name) return site.number;
-  return std::nullopt;
+  const auto* const site = std::ranges::find(kSites, name, &Site::name);
+  return site == std::end(kSites) ? std::nullopt : std::optional(site->number);
 }
 
 bool ComponentReader::next(Component& component) {

@@ -42,8 +42,8 @@ const char* find(const Table& table, const char* at) {
 
 }  // namespace
 
-FieldReader::FieldReader(file::System& system, const std::string& path, std::string name)
-    : input_(system, path, std::move(name)),
+FieldReader::FieldReader(file::System& system, const std::string& path, const std::string& name)
+    : input_(system, path, name),
       bytes_(std::make_unique_for_overwrite<char[]>(kRoom)),
       next_(bytes_.get()),
       end_(next_) {
@@ -52,9 +52,9 @@ FieldReader::FieldReader(file::System& system, const std::string& path, std::str
   if (std::string_view(next_, end_).starts_with(kByteOrderMark)) next_ += kByteOrderMark.size();
 }
 
-// What was not read yet moves to the front once there is a block before it.
+// What was not read yet moves to the front once it is little against what was.
 void FieldReader::forget() {
-  if (next_ - bytes_.get() < static_cast<std::ptrdiff_t>(kBlock)) return;
+  if (end_ - next_ > (next_ - bytes_.get()) / kMovedPart) return;
   end_ = std::copy(next_, end_ + 1, bytes_.get()) - 1;
   next_ = bytes_.get();
 }
@@ -90,26 +90,30 @@ bool FieldReader::refill() {
   return !file_ended_;
 }
 
-// After the comma or CR LF here; null for another end of a field.
-const char* FieldReader::after_separator(const char* at) const {
-  return *at == ',' ? at + 1 : *at == '\r' && at[1] == '\n' && at + 1 != end_ ? at + 2 : nullptr;
-}
-
 // Nearly every field stands without blanks and ends inside what was read, with a comma or CR LF: it is found here, any other
 // in next_of_any_kind(). No search runs beyond the line end after the last byte.
 bool FieldReader::next(std::span<Field> fields) {
+  const char* at = next_;
   for (Field& field : fields) {
-    const char* end = after_plain(next_);
-    const bool quoted = *end == '"' && end == next_;
-    if (quoted) end = find(kEndsQuotedText, next_ + 1);
-    const char* const after = quoted == (*end == '"') ? after_separator(end + quoted) : nullptr;
-    if (after == nullptr || end - next_ > kLongestPlain) {
+    const char* const begin = at;
+    const char* end = after_plain(at);
+    const bool quoted = *end == '"' && end == begin;
+    if (quoted) end = find(kEndsQuotedText, begin + 1);
+    if (*end == ',')
+      at = end + 1;
+    else if (*end == '\r' && end[1] == '\n' && end + 1 != end_ && !quoted)
+      at = end + 2;
+    else if (quoted && *end == '"' && end[1] == ',')
+      at = end + 2;
+    if (at == begin || end - begin > kLongestPlain) {
+      next_ = begin;
       if (!next_of_any_kind(field)) return false;
-      continue;
+      at = next_;
+    } else {
+      field = {{begin + quoted, end}, quoted};
     }
-    field = {{next_ + quoted, end}, quoted};
-    next_ = after;
   }
+  next_ = at;
   return true;
 }
 
@@ -142,7 +146,7 @@ bool FieldReader::next_of_any_kind(Field& field) {
 }
 
 std::string first_field(file::System& system, const std::string& path) {
-  FieldReader reader(system, path);
+  FieldReader reader(system, path, path);
   Field field;
   try {
     if (reader.next(field)) return std::string(field.text);

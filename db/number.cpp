@@ -1,6 +1,7 @@
 #include "db/number.h"
 
 #include <array>
+#include <charconv>
 #include <cmath>
 #include <system_error>
 
@@ -18,10 +19,10 @@ const char* after_digits(const char* at, const char* end) {
 
 }  // namespace
 
-std::optional<double> parse_any_number(std::string_view text) {
+std::optional<double> parse_longer_number(std::string_view text) {
+  const char* const end = text.data() + text.size();
   // from_chars takes no plus sign, and takes words like inf.
   const char* begin = text.data() + (text.starts_with('+') ? 1 : 0);
-  const char* const end = text.data() + text.size();
   const char* const unsigned_part = begin + (text.starts_with('-') ? 1 : 0);
   if (unsigned_part == end || (!is_digit(*unsigned_part) && *unsigned_part != '.')) return std::nullopt;
   double value = 0;
@@ -53,7 +54,7 @@ std::string format_number(double value) {
   return text;
 }
 
-bool is_formatted_longer(std::string_view text) {
+bool is_longer_formatted(std::string_view text) {
   const char* const end = text.data() + text.size();
   const char* const whole = text.data() + (text.starts_with('-') ? 1 : 0);
   const char* const point = after_digits(whole, end);

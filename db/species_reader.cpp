@@ -95,13 +95,13 @@ const Record* SpeciesReader::read_record() {
   }
   const double components = number(record_.head[kComponents], "the number of components");
   const double whole = std::floor(components);
-  read_pairs(record_.pairs, whole > kMbBlock ? whole - kMbBlock : whole, "component pairs");
+  record_.pairs = read_pairs(pairs_, whole > kMbBlock ? whole - kMbBlock : whole, "component pairs");
 
   // Not the same as whole > kMbBlock: 100.5 has a block too (and then too many pairs).
   record_.has_mb = components > kMbBlock;
   if (record_.has_mb) require(std::span(&record_.mb_count, 1));
-  read_pairs(record_.mb_pairs, record_.has_mb ? std::floor(number(record_.mb_count, "the number of M.B. pairs")) : 0,
-             "M.B. pairs");
+  record_.mb_pairs = read_pairs(
+      mb_pairs_, record_.has_mb ? std::floor(number(record_.mb_count, "the number of M.B. pairs")) : 0, "M.B. pairs");
   return &record_;
 }
 
@@ -112,10 +112,11 @@ double SpeciesReader::number(const Field& field, const char* what) const {
 }
 
 // A count below 1 means none.
-void SpeciesReader::read_pairs(std::vector<Field>& pairs, double count, const char* what) {
+std::span<const Field> SpeciesReader::read_pairs(std::span<Field> room, double count, const char* what) {
   if (count > kMaxPairs) throw FieldError("it has more than " + std::to_string(kMaxPairs) + " " + what);
-  pairs.resize(2 * static_cast<std::size_t>(std::max(count, 0.)));
+  const auto pairs = room.first(2 * static_cast<std::size_t>(std::max(count, 0.)));
   require(pairs);
+  return pairs;
 }
 
 Listing list_species(file::System& system, const Database& open) {

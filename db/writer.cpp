@@ -27,11 +27,6 @@ LineWriter& LineWriter::text(std::string_view value) {
   return *this;
 }
 
-LineWriter& LineWriter::empty() {
-  next();
-  return *this;
-}
-
 LineWriter& LineWriter::field(const Field& field) {
   if (field.quoted) return text(field.text);
   if (!field.text.empty() && !is_formatted(field.text)) {
@@ -83,7 +78,7 @@ void append_record(std::string& out, const Record& record) {
 
 void append_leading(std::string& out, const LeadingFields& fields) {
   if (fields.model && fields.model_is_empty)
-    LineWriter(out).empty().end();
+    LineWriter(out).field({}).end();
   else if (fields.model)
     LineWriter(out).text(*fields.model).end();
   if (!fields.blm) return;

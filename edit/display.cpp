@@ -1,6 +1,7 @@
 #include "edit/display.h"
 
 #include <algorithm>
+#include <span>
 #include <utility>
 
 #include "db/components.h"
@@ -14,7 +15,7 @@ using db::numtext;
 bool is_empty(const db::Field& field) { return field.type() == db::FieldType::Empty; }
 
 // Of several M.B. stoichiometries of a component the last counts.
-std::string mb_text(const db::SpeciesReader& reader, const std::vector<db::Field>& pairs, const db::Field& compno) {
+std::string mb_text(const db::SpeciesReader& reader, std::span<const db::Field> pairs, const db::Field& compno) {
   for (std::size_t i = pairs.size(); i > 0; i -= 2) {
     const db::Field& stoich = pairs[i - 2];
     if (pairs[i - 1].number() == compno.number())
@@ -25,7 +26,7 @@ std::string mb_text(const db::SpeciesReader& reader, const std::vector<db::Field
 
 void show_rows(file::System& system, const db::Database& open, const db::SpeciesReader& reader, const db::Record& record,
                Shown& shown) {
-  const std::vector<db::Field>& pairs = record.pairs;
+  std::span<const db::Field> pairs = record.pairs;
   const std::size_t rows = std::min<std::size_t>(pairs.size() / 2, db::kShownPairs);
   if (pairs.size() / 2 > rows)
     shown.notice = file::named(record.name()) + " has " + std::to_string(pairs.size() / 2) +

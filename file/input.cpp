@@ -1,7 +1,5 @@
 #include "file/input.h"
 
-#include <utility>
-
 namespace file {
 
 std::string named(std::string_view name) {
@@ -22,9 +20,9 @@ void require(std::error_code error, std::string_view what, const std::string& pa
   if (error) throw Error(failure(what, path, error));
 }
 
-Input::Input(System& system, const std::string& path, std::string name)
+Input::Input(System& system, const std::string& path, const std::string& name)
     : system_(system),
-      name_(std::move(name)),
+      name_(name),
       file_(system) {
   require(uninterrupted([&] { return system_.open_read(path, file_.handle()); }), "open", name_);
 }
@@ -37,7 +35,7 @@ std::size_t Input::read(std::uint64_t offset, char* bytes, std::size_t size, std
 
 std::string read_whole(System& system, const std::string& path, std::size_t limit) {
   constexpr std::size_t kBlock = 64 * 1024;
-  const Input input(system, path);
+  const Input input(system, path, path);
   std::string content;
   for (std::size_t size = 0;;) {
     content.resize(size + kBlock);

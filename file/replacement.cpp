@@ -145,7 +145,7 @@ void TemporaryFile::write(std::string_view content, const std::string* like) {
 }
 
 void TemporaryFile::verify(std::string_view content) const {
-  const Input input(system_, path_);
+  const Input input(system_, path_, path_);
   char block[64 * 1024];
   for (std::size_t offset = 0, got = 0;; offset += got) {
     got = input.read(offset, block, sizeof block, "read back");

@@ -52,18 +52,19 @@ void Session::enter_new_species(unsigned char byte) {
 
 std::string Session::save(bool to_new) {
   static const char* const kExtensions[] = {".mdb", ".iso", ".nic", ".bli", ".cdb"};
-  const ui::Control& list = program_.form.window()[app::lstReactions];
+  const ui::Control& list = program_.reactions();
   const std::string selected(db::trimmed(list.selected_text()));
-  const bool adds = !selected.empty() && selected == db::trimmed(program_.Text(app::txtSpname));
+  const bool adds = !selected.empty() && selected == db::trimmed(program_.text(app::txtSpname));
   const std::string nobody = "\n", changed = list.selected < 0 || adds ? nobody : selected;
   const std::string from = program_.form.state().open.path, before = system_.content(from);
   if (to_new) {
     ++copies_;
-    program_.Choose("copy" + std::to_string(copies_) + kExtensions[copies_ % 5]);
+    program_.play("choose copy" + std::to_string(copies_) + kExtensions[copies_ % 5]);
     program_.click(app::cmdNewDb);
     if (system_.content(from) != before) return "the old database was changed";
   } else {
-    program_.Save();
+    program_.play("answer Yes");
+    program_.click(app::cmdSavedb);
   }
   return fault_in(program_.form.state().open.path, before, [&](const Records& old, Records now) {
     if (adds && !now.empty()) now.erase(now.begin());
@@ -74,10 +75,10 @@ std::string Session::save(bool to_new) {
 }
 
 std::string Session::remove() {
-  const ui::Control& list = program_.form.window()[app::lstReactions];
+  const ui::Control& list = program_.reactions();
   const std::string selected(db::trimmed(list.selected_text())), path = program_.form.state().open.path,
                                                                  before = system_.content(path);
-  program_.Answer(ui::Answer::Yes);
+  program_.play("answer Yes");
   program_.click(app::cmdDelete);
   program_.dialogs.answers.clear();
   return fault_in(path, before, [&](Records old, const Records& now) {

@@ -7,7 +7,8 @@
 #include <vector>
 
 #include "account.h"
-#include "support/story.h"
+#include "player/player.h"
+#include "support/memory_system.h"
 
 namespace fuzz {
 
@@ -27,7 +28,7 @@ class Session {
   void enter_new_species(unsigned char byte);
 
   support::MemorySystem system_;
-  support::Program program_{system_};
+  player::Player program_{system_};
   db::Kind kind_;
   int copies_ = 0;
 };

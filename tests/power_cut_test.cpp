@@ -23,39 +23,40 @@ using support::CallInfo;
 using support::MemorySystem;
 using support::WatchedSystem;
 
-// The names and contents of a disk. Files are told apart by their number.
+// The names and contents of a disk, the files by their number.
 struct Disk {
-  std::map<std::string, int> names;
-  std::map<int, std::string> files;
+  std::map<std::string, std::uint64_t> names;
+  std::map<std::uint64_t, std::string> files;
+
+  std::string content(const std::string& path) const {
+    const auto name = names.find(path);
+    if (name == names.end()) return "(missing)";
+    const auto file = files.find(name->second);
+    return file == files.end() ? "" : file->second;
+  }
 };
 
 // Something that was asked of the disk and is not on it for certain until a flush.
 struct Change {
   Call call;
-  int file;
+  std::uint64_t file;
   std::string from, to, bytes;
-};
 
-void apply(const Change& change, bool torn, Disk& disk) {
-  switch (change.call) {
-    case Call::CreateNew: disk.names[change.from] = change.file; break;
-    case Call::Write:
-      disk.files[change.file] += torn ? change.bytes.substr(0, change.bytes.size() / 2) : change.bytes;
-      break;
-    case Call::Rename: disk.names[change.to] = change.file; [[fallthrough]];
-    default: disk.names.erase(change.from);
+  void apply(Disk& disk, bool torn) const {
+    if (call == Call::Write) disk.files[file] += torn ? bytes.substr(0, bytes.size() / 2) : bytes;
+    if (call == Call::Rename || call == Call::Remove) disk.names.erase(from);
+    if (call == Call::Rename || call == Call::CreateNew) disk.names[to] = file;
   }
-}
+};
 
 // Notes what a program asks of a disk, and gives every state that a power cut may leave.
 class Recorder {
  public:
   explicit Recorder(MemorySystem& memory) : memory_(memory), watched(memory) {
     for (const auto& [path, content] : memory.all()) {
-      safe_.names[path] = ++last_file_;
-      safe_.files[last_file_] = content;
+      safe_.names[path] = memory.at(path).inode;
+      safe_.files[memory.at(path).inode] = content;
     }
-    now_ = safe_.names;
     watched.after = [this](const CallInfo& info) {
       if (note(info)) examine(during);
     };
@@ -71,59 +72,50 @@ class Recorder {
       Disk disk = safe_;
       std::size_t rest = state;
       for (const Change& change : pending_) {
-        if (rest % 3 != 0) apply(change, rest % 3 == 1, disk);
+        if (rest % 3 != 0) change.apply(disk, rest % 3 == 1);
         rest /= 3;
       }
       look(disk);
-      ++examined_;
     }
+    examined += static_cast<int>(states);
   }
-  int examined() const { return examined_; }
+  int examined = 0;
 
  private:
-  static std::string folder(const std::string& path) { return path.substr(0, path.rfind('/')); }
-
   // False for a call that asks nothing of the disk.
   bool note(const CallInfo& info) {
     const std::string from = memory_.absolute(info.path), to = memory_.absolute(info.to);
-    if (info.call == Call::CreateNew) open_[info.handle] = now_[from] = ++last_file_;
-    const int file = open_.count(info.handle) > 0 ? open_.at(info.handle) : now_.count(from) > 0 ? now_.at(from) : 0;
+    const auto folder = [](const std::string& path) { return path.substr(0, path.rfind('/')); };
+    const auto file_of = [&] {
+      file::Status status;
+      EXPECT_EQ(memory_.status(info.handle, status), std::error_code());
+      return status.identity[1];
+    };
     switch (info.call) {
-      case Call::Close: open_.erase(info.handle); return false;
-      case Call::Flush: return settle([&](const Change& c) { return c.file == file && c.call == Call::Write; });
+      case Call::Flush: settle([&](const Change& c) { return c.call == Call::Write && c.file == file_of(); }); break;
       case Call::FlushFolder:
-        return settle([&](const Change& c) {
+        settle([&](const Change& c) {
           return c.call != Call::Write && (folder(c.from) == folder(from) || folder(c.to) == folder(from));
         });
-      case Call::Rename: now_[to] = file; break;
-      case Call::CreateNew:
-      case Call::Write:
-      case Call::Remove: break;
+        break;
+      case Call::CreateNew: pending_.push_back({info.call, file_of(), "", from, ""}); break;
+      case Call::Write: pending_.push_back({info.call, file_of(), "", "", std::string(info.bytes)}); break;
+      case Call::Rename: pending_.push_back({info.call, memory_.at(to).inode, from, to, ""}); break;
+      case Call::Remove: pending_.push_back({info.call, 0, from, "", ""}); break;
       default: return false;
     }
-    if (info.call == Call::Rename || info.call == Call::Remove) now_.erase(from);
-    pending_.push_back({info.call, file, from, to, std::string(info.bytes)});
     return true;
   }
 
-  bool settle(const std::function<bool(const Change&)>& flushed) {
-    std::vector<Change> left;
-    for (const Change& change : pending_) {
-      if (flushed(change))
-        apply(change, false, safe_);
-      else
-        left.push_back(change);
-    }
-    pending_ = left;
-    return true;
+  void settle(const std::function<bool(const Change&)>& flushed) {
+    for (const Change& change : pending_)
+      if (flushed(change)) change.apply(safe_, false);
+    std::erase_if(pending_, flushed);
   }
 
   MemorySystem& memory_;
-  Disk safe_;                       // what is on the disk for certain
-  std::vector<Change> pending_;     // what may be
-  std::map<std::string, int> now_;  // names as the program sees them
-  std::map<file::Handle, int> open_;
-  int last_file_ = 0, examined_ = 0;
+  Disk safe_;                    // what is on the disk for certain
+  std::vector<Change> pending_;  // what may be
 
  public:
   WatchedSystem watched;
@@ -131,13 +123,6 @@ class Recorder {
 
 const std::string kOld = "the old content of the database, in several records", kNew = "the new content, shorter",
                   kLonger = "the new content of the database, which is quite a bit longer than the old one";
-
-std::string content(const Disk& disk, const std::string& path) {
-  const auto name = disk.names.find(path);
-  if (name == disk.names.end()) return "(missing)";
-  const auto file = disk.files.find(name->second);
-  return file == disk.files.end() ? "" : file->second;
-}
 
 struct Found {
   int mixed = 0, old_after_success = 0, states = 0;
@@ -156,14 +141,11 @@ Found replace(const std::string& target, const std::string& fresh, std::optional
     return info.call == ignored ? std::optional(support::Instead{}) : std::nullopt;
   };
   Found found;
-  recorder.during = [&](const Disk& disk) {
-    const std::string now = content(disk, target);
-    found.mixed += now != kOld && now != fresh;
-  };
+  recorder.during = [&](const Disk& disk) { found.mixed += disk.content(target) != kOld && disk.content(target) != fresh; };
   file::Replacement replacement(recorder.watched, "dbnamep.mdb", "/far/link.mdb", {"comp.mdb", ""});
   EXPECT_EQ(replacement.commit(fresh), std::nullopt);
-  recorder.examine([&](const Disk& disk) { found.old_after_success += content(disk, target) != fresh; });
-  found.states = recorder.examined();
+  recorder.examine([&](const Disk& disk) { found.old_after_success += disk.content(target) != fresh; });
+  found.states = recorder.examined;
   return found;
 }
 

@@ -6,7 +6,7 @@
 #include <random>
 #include <string>
 
-#include "support/story.h"
+#include "support/text.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""The stories in tests/stories: stories.py [--record] PLAYER [STORY...]
+"""The stories in tests/stories, and those of widgets in tests/qt/stories: stories.py [--record] PLAYER [STORY|FOLDER...]
 
 A story tells what a user does on the sample databases, and what the window shows and the files hold then.
 "put NAME" makes a file of the lines "| ..." that follow ("| trailer" being the six lines that end a database; \\x1a and the
@@ -124,11 +124,11 @@ def played(player, story):
 def main():
     record = "--record" in sys.argv
     player, *names = [a for a in sys.argv[1:] if a != "--record"]
-    folder = os.path.join(HERE, "stories")
+    paths = []
+    for name in names or [os.path.join(HERE, "stories")]:
+        paths += sorted(os.path.join(name, story) for story in os.listdir(name)) if os.path.isdir(name) else [name]
     failures = 0
-    names = names or sorted(os.listdir(folder))
-    for name in names:
-        path = os.path.join(folder, name)
+    for path in paths:
         with open(path, encoding="latin-1", newline="\n") as f:
             recorded = f.read()
         told = played([os.path.abspath(player)], recorded)
@@ -139,8 +139,8 @@ def main():
             failures += 1
             pairs = zip(recorded.split("\n") + [""], told.split("\n") + [""])
             line, (want, got) = next((i, pair) for i, pair in enumerate(pairs) if pair[0] != pair[1])
-            print("%s:%d: expected %r, got %r" % (name, line + 1, want, got))
-    print("%d of %d stories come out as recorded" % (len(names) - failures, len(names)))
+            print("%s:%d: expected %r, got %r" % (os.path.basename(path), line + 1, want, got))
+    print("%d of %d stories come out as recorded" % (len(paths) - failures, len(paths)))
     sys.exit(1 if failures else 0)
 
 

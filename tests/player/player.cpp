@@ -1,8 +1,77 @@
 #include "player/player.h"
 
+#include <algorithm>
+#include <charconv>
 #include <iostream>
+#include <stdexcept>
+#include <system_error>
+
+#include "app/controls.h"
 
 namespace player {
+namespace {
+
+enum class Rest { Nothing, Entry, Text, SomeText };
+
+// What a line begins with, the kinds of control whose name follows, and what follows that.
+const struct {
+  std::string begin;
+  Event::Kind kind;
+  Rest rest = Rest::Nothing;
+  std::vector<ui::Kind> controls{};
+} kForms[] = {{"load", Event::Kind::Load},
+              {"state", Event::Kind::State},
+              {"close", Event::Kind::Close},
+              {"cancel", Event::Kind::Cancel},
+              {"answer Yes", Event::Kind::AnswerYes},
+              {"answer No", Event::Kind::AnswerNo},
+              {"choose ", Event::Kind::Choose, Rest::SomeText},
+              {"select ", Event::Kind::Select, Rest::Entry},
+              {"pick ", Event::Kind::Pick, Rest::Entry, {ui::Kind::ComboBox}},
+              {"type ", Event::Kind::Type, Rest::Text, {ui::Kind::TextBox, ui::Kind::ComboBox}},
+              {"click ", Event::Kind::Click, Rest::Nothing, {ui::Kind::Button, ui::Kind::MenuItem}}};
+
+const ui::ControlDef& definition(int control) { return app::window_def().controls[static_cast<std::size_t>(control)]; }
+
+bool parse_rest(Rest form, const std::string& text, Event& event) {
+  if (form == Rest::Nothing) return text.empty();
+  if (form != Rest::Entry) {
+    event.text = text;
+    return form == Rest::Text || !text.empty();
+  }
+  const char* const end = text.data() + text.size();
+  const auto [stop, error] = std::from_chars(text.data(), end, event.entry);
+  return error == std::errc() && stop == end;
+}
+
+}  // namespace
+
+std::optional<int> find_control(std::string_view name) {
+  const auto controls = app::window_def().controls;
+  const auto found = std::ranges::find(controls, name, &ui::ControlDef::name);
+  return found == controls.end() ? std::nullopt : std::optional(static_cast<int>(found - controls.begin()));
+}
+
+std::optional<Event> parse_event(const std::string& line) {
+  const auto form = std::ranges::find_if(kForms, [&](const auto& f) { return line.starts_with(f.begin); });
+  if (form == std::end(kForms)) return std::nullopt;
+  Event event{.kind = form->kind};
+  std::string rest = line.substr(form->begin.size());
+  if (event.kind == Event::Kind::Select) event.control = app::lstReactions;
+  if (!form->controls.empty()) {
+    const std::size_t blank = std::min(rest.find(' '), rest.size());
+    const auto control = find_control(rest.substr(0, blank));
+    if (!control || std::ranges::count(form->controls, definition(*control).kind) == 0) return std::nullopt;
+    event.control = *control;
+    rest.erase(0, blank + 1);
+  }
+  return parse_rest(form->rest, rest, event) ? std::optional(event) : std::nullopt;
+}
+
+void Player::play(const std::string& line) {
+  const auto event = parse_event(line);
+  if (!event || play(*event) != Outcome::Done) throw std::logic_error("nobody can do this here: " + line);
+}
 
 Outcome Player::play(const Event& event) {
   using Kind = Event::Kind;
@@ -15,7 +84,7 @@ Outcome Player::play(const Event& event) {
   switch (event.kind) {
     case Kind::Load: do_load(); break;
     case Kind::State: break;
-    case Kind::Close: form.window().ended = true; break;
+    case Kind::Close: do_close(); break;
     case Kind::Cancel: dialogs.choices.push_back(std::nullopt); break;
     case Kind::AnswerYes: dialogs.answers.push_back(ui::Answer::Yes); break;
     case Kind::AnswerNo: dialogs.answers.push_back(ui::Answer::No); break;
@@ -39,9 +108,6 @@ void Player::do_pick(const Event& event) {
   combo.text = combo.entries[static_cast<std::size_t>(event.entry)];
   form.click(event.control);
 }
-
-void Player::do_type(const Event& event) { form.window()[event.control].text = event.text; }
-void Player::do_click(const Event& event) { form.click(event.control); }
 
 std::string Player::state() {
   std::string block = "state\n";
@@ -74,20 +140,19 @@ std::string Player::state() {
 }
 
 int play_script(Player& player, bool echo) {
-  player.dialogs.told = [](const std::string& line) { std::cout << line << '\n'; };
   if (echo) std::cout << player.state();
   for (std::string line; std::getline(std::cin, line);) {
     if (line.empty() || line.front() == '#') continue;
+    if (echo) std::cout << "> " << line << '\n';
     const auto event = parse_event(line);
+    if (!event && player.play_other(line)) continue;
     if (!event) {
       std::cout.flush();
       std::cerr << "not understood: " << line << '\n';
       return 2;
     }
-    if (echo) std::cout << "> " << line << '\n';
     const Outcome outcome = player.play(*event);
-    if (outcome == Outcome::Hidden)
-      std::cout << "hidden " << app::window_def().controls[static_cast<std::size_t>(event->control)].name << '\n';
+    if (outcome == Outcome::Hidden) std::cout << "hidden " << definition(event->control).name << '\n';
     if (outcome == Outcome::NoEntry) std::cout << "no entry " << event->entry << '\n';
     if (event->kind == Event::Kind::State) std::cout << player.state();
     if (!player.form.window().ended) continue;

@@ -16,7 +16,7 @@ QLineEdit* QtPlayer::edit(int control) {
 void QtPlayer::do_load() {
   Player::do_load();
   window.push(true);
-  window.show();
+  window.setVisible(!form.window().ended);
 }
 
 void QtPlayer::do_select(const Event& event) {

@@ -34,6 +34,7 @@ class QtPlayer : public Player {
   void do_pick(const Event& event) override;
   void do_type(const Event& event) override;
   void do_click(const Event& event) override;
+  void do_close() override { window.close(); }
 };
 
 }  // namespace player

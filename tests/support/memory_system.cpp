@@ -72,7 +72,7 @@ bool MemorySystem::may_change_names(const std::string& path) const {
 file::Status MemorySystem::status_of(const std::string& path, const File& file) const {
   file::Status status;
   status.type = file.type;
-  status.writable = file.writable;
+  status.writable = (file.mode & 0200) != 0;
   status.replaceable = may_change_names(path);
   status.size = file.content.size();
   status.identity = {folder_of(path) == nullptr ? 1 : folder_of(path)->device, file.inode};
@@ -137,10 +137,8 @@ std::error_code MemorySystem::write(Handle handle, std::string_view bytes, std::
 std::error_code MemorySystem::take_over(Handle handle, const std::string& path) {
   const auto found = files_.find(followed(path));
   if (found == files_.end()) return failed(std::errc::no_such_file_or_directory);
-  File& file = *handles_.at(handle).file;
-  file.mode = found->second->mode;
-  file.attributes = found->second->attributes;
-  touch(file);
+  handles_.at(handle).file->mode = found->second->mode;
+  touch(*handles_.at(handle).file);
   return {};
 }
 

@@ -22,9 +22,7 @@ class MemorySystem : public file::System {
     file::Type type = file::Type::Plain;
     std::string content;  // of a link: where it points
     std::uint32_t mode = 0644;
-    bool writable = true;
-    std::string attributes;  // beyond the permissions
-    std::string owner;       // another user
+    std::string owner;  // another user
     bool locked = false;
     std::uint64_t inode = 0;
     std::chrono::nanoseconds changed{};
@@ -38,8 +36,7 @@ class MemorySystem : public file::System {
   MemorySystem() { add_folder("/kelmar"); }
 
   // Set-up and inspection; paths as the program gives them, relative ones from /kelmar.
-  void add_folder(const std::string& path) { folders_[path] = Folder(); }
-  void add_folder(const std::string& path, const Folder& folder) { folders_[path] = folder; }
+  void add_folder(const std::string& path, const Folder& folder = {1, true, true}) { folders_[path] = folder; }
   void add(const std::string& path, std::string content);
   void link(const std::string& path, const std::string& to);             // symbolic
   void hard_link(const std::string& path, const std::string& existing);  // another name of the same file

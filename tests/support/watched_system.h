@@ -17,13 +17,20 @@ enum class Call {
   OpenRead, CreateNew, ExcludeOthers, Read, Write, Flush, Close, StatusOfPath, StatusOfHandle, TakeOver, WithoutLinks, Rename,
   Remove, FlushFolder, CurrentFolder, ChangeFolder, ChangeDrive, kCount
 };
+inline constexpr std::string_view kCallNames[] = {
+  "open_read", "create_new", "exclude_others", "read", "write", "flush", "close", "status", "status_of_handle", "take_over",
+  "without_links", "rename", "remove", "flush_folder_of", "current_folder", "change_folder", "change_drive"
+};
 // clang-format on
+static_assert(std::size(kCallNames) == static_cast<std::size_t>(Call::kCount));
+
+inline const file::Handle kNoHandle = -1;
 
 struct CallInfo {
   Call call;
-  file::Handle handle = -1;
-  std::string path{}, to{};  // of calls with paths
-  std::string_view bytes{};  // of Write
+  std::string path{}, to{};                // of calls with paths
+  const file::Handle& handle = kNoHandle;  // of a call that opens: as soon as it was made
+  std::string_view bytes{};                // of Write
 };
 
 // What becomes of a call: nothing means that it is made; else an error in its place, or only half of what it transfers.
@@ -42,87 +49,62 @@ class WatchedSystem final : public file::System {
   std::function<std::optional<Instead>(const CallInfo&)> before = [](const CallInfo&) { return std::nullopt; };
   std::function<void(const CallInfo&)> after = [](const CallInfo&) {};  // of calls that succeeded
 
-  // The call fails at its nth occurrence, and is not made.
-  void fail(Call call, int nth, std::error_code error) {
-    before = [=, made = 0](const CallInfo& info) mutable {
-      return info.call == call && ++made == nth ? std::optional(Instead{error}) : std::nullopt;
-    };
-  }
-
   using Error = std::error_code;
   using Path = const std::string&;
   using Handle = file::Handle;
   Error open_read(Path path, Handle& handle) override {
-    return make({Call::OpenRead, -1, path},
-                [&](auto& info) { return opened(info, handle, inner_.open_read(path, handle)); });
+    return pass({Call::OpenRead, path, "", handle}, &System::open_read, path, handle);
   }
   Error create_new(Path path, file::Access access, Handle& handle) override {
-    return make({Call::CreateNew, -1, path},
-                [&](auto& info) { return opened(info, handle, inner_.create_new(path, access, handle)); });
+    return pass({Call::CreateNew, path, "", handle}, &System::create_new, path, access, handle);
   }
   Error exclude_others(Path path, Handle& handle) override {
-    return make({Call::ExcludeOthers, -1, path},
-                [&](auto& info) { return opened(info, handle, inner_.exclude_others(path, handle)); });
+    return pass({Call::ExcludeOthers, path, "", handle}, &System::exclude_others, path, handle);
   }
   Error read(Handle handle, std::uint64_t offset, char* bytes, std::size_t size, std::size_t& got) override {
-    return make({Call::Read, handle},
+    return make({Call::Read, "", "", handle},
                 [&](auto&) { return inner_.read(handle, offset, bytes, half_ ? (size + 1) / 2 : size, got); });
   }
   Error write(Handle handle, std::string_view bytes, std::size_t& put) override {
-    return make({Call::Write, handle, "", "", bytes}, [&](auto& info) {
+    return make({Call::Write, "", "", handle, bytes}, [&](auto& info) {
       if (half_) info.bytes = bytes.substr(0, bytes.size() / 2);
       return inner_.write(handle, info.bytes, put);
     });
   }
   Error take_over(Handle handle, Path path) override {
-    return make({Call::TakeOver, handle, path}, [&](auto&) { return inner_.take_over(handle, path); });
+    return pass({Call::TakeOver, path, "", handle}, &System::take_over, handle, path);
   }
-  Error flush(Handle handle) override {
-    return make({Call::Flush, handle}, [&](auto&) { return inner_.flush(handle); });
-  }
+  Error flush(Handle handle) override { return pass({Call::Flush, "", "", handle}, &System::flush, handle); }
   Error close(Handle handle) override {
     const auto closed = inner_.close(handle);  // a failing close closes too
-    return make({Call::Close, handle}, [&](auto&) { return closed; });
+    return make({Call::Close, "", "", handle}, [&](auto&) { return closed; });
   }
   Error status(Path path, file::Follow follow, file::Status& status) override {
-    return make({Call::StatusOfPath, -1, path}, [&](auto&) { return inner_.status(path, follow, status); });
+    return make({Call::StatusOfPath, path}, [&](auto&) { return inner_.status(path, follow, status); });
   }
   Error status(Handle handle, file::Status& status) override {
-    return make({Call::StatusOfHandle, handle}, [&](auto&) { return inner_.status(handle, status); });
+    return make({Call::StatusOfHandle, "", "", handle}, [&](auto&) { return inner_.status(handle, status); });
   }
   std::string owner_of(Path path) override { return inner_.owner_of(path); }
   Error without_links(Path path, std::string& real) override {
-    return make({Call::WithoutLinks, -1, path}, [&](auto&) { return inner_.without_links(path, real); });
+    return pass({Call::WithoutLinks, path}, &System::without_links, path, real);
   }
-  Error rename(Path from, Path to) override {
-    return make({Call::Rename, -1, from, to}, [&](auto&) { return inner_.rename(from, to); });
-  }
-  Error remove(Path path) override {
-    return make({Call::Remove, -1, path}, [&](auto&) { return inner_.remove(path); });
-  }
-  Error flush_folder_of(Path path) override {
-    return make({Call::FlushFolder, -1, path}, [&](auto&) { return inner_.flush_folder_of(path); });
-  }
-  Error current_folder(std::string& folder) override {
-    return make({Call::CurrentFolder}, [&](auto&) { return inner_.current_folder(folder); });
-  }
-  Error change_folder(Path folder) override {
-    return make({Call::ChangeFolder, -1, folder}, [&](auto&) { return inner_.change_folder(folder); });
-  }
-  Error change_drive(char letter) override {
-    return make({Call::ChangeDrive}, [&](auto&) { return inner_.change_drive(letter); });
-  }
+  Error rename(Path from, Path to) override { return pass({Call::Rename, from, to}, &System::rename, from, to); }
+  Error remove(Path path) override { return pass({Call::Remove, path}, &System::remove, path); }
+  Error flush_folder_of(Path path) override { return pass({Call::FlushFolder, path}, &System::flush_folder_of, path); }
+  Error current_folder(std::string& folder) override { return pass({Call::CurrentFolder}, &System::current_folder, folder); }
+  Error change_folder(Path folder) override { return pass({Call::ChangeFolder, folder}, &System::change_folder, folder); }
+  Error change_drive(char letter) override { return pass({Call::ChangeDrive}, &System::change_drive, letter); }
   void pause(std::chrono::milliseconds time) override { inner_.pause(time); }
 
  private:
-  // The handle by reference: it is known only when the call was made.
-  static std::error_code opened(CallInfo& info, const file::Handle& handle, std::error_code error) {
-    info.handle = handle;
-    return error;
+  template <typename... Parameters, typename... Arguments>
+  Error pass(CallInfo info, Error (System::*call)(Parameters...), Arguments&&... arguments) {
+    return make(info, [&](auto&) { return (inner_.*call)(arguments...); });
   }
 
   template <typename Make>
-  std::error_code make(CallInfo info, Make call) {
+  Error make(CallInfo info, Make call) {
     struct InProgress {
       InProgress() { ++calls_in_progress; }
       ~InProgress() { --calls_in_progress; }
@@ -130,12 +112,12 @@ class WatchedSystem final : public file::System {
     const auto instead = before(info);
     if (instead && !instead->half) return instead->error;
     half_ = instead.has_value();
-    const std::error_code error = call(info);
+    const Error error = call(info);
     if (!error) after(info);
     return error;
   }
 
-  file::System& inner_;
+  System& inner_;
   bool half_ = false;
 };
 

@@ -65,8 +65,6 @@ class frmMaindb final : public ui::Form {
   void cmdSuggest_Click();
   void numgenerator2();
   void Newspecdelete();
-
-  // Changes of the file (frmMaindb_saving.cpp).
   void cmdSavedb_Click();
   void cmdNewDb_Click();
   void cmdDelete_Click();

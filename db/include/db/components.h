@@ -15,11 +15,6 @@
 namespace db {
 
 // The surface sites, which bear these names in the window whatever the component database calls them.
-struct Site {
-  double number;
-  std::string_view name;
-};
-inline constexpr Site kSites[] = {{812, "=SOH"}, {816, "=S3O"}, {811, "=SOHh"}};
 std::optional<std::string_view> site_name(double number);
 std::optional<double> site_number(std::string_view name);
 
@@ -30,7 +25,7 @@ struct Component {
 // Reads the records of a component database one by one, at most `limit` of them. Throws file::Error.
 class ComponentReader {
  public:
-  ComponentReader(file::System& system, const std::string& path, int limit) : fields_(system, path), limit_(limit) {}
+  ComponentReader(file::System& system, const std::string& path, int limit) : fields_(system, path, path), limit_(limit) {}
 
   // False at the end. The views hold until the next call.
   bool next(Component& component);

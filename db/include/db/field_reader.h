@@ -56,8 +56,7 @@ class FieldError : public file::Error {
 class FieldReader {
  public:
   // Throws file::Error when the file cannot be opened; messages call it `name`.
-  FieldReader(file::System& system, const std::string& path) : FieldReader(system, path, path) {}
-  FieldReader(file::System& system, const std::string& path, std::string name);
+  FieldReader(file::System& system, const std::string& path, const std::string& name);
 
   // Begins a record; false at the end of the file, where nothing is left but blank fields and at most one Ctrl-Z, the end
   // mark of old text editors. Forgets the fields read before.
@@ -74,14 +73,14 @@ class FieldReader {
 
  private:
   static constexpr std::size_t kBlock = 64 * 1024;  // bytes read at a time
+  static constexpr int kMovedPart = 16;             // of what was read at most a 16th is moved
   static constexpr std::size_t kMostFields = 64;    // between two calls of forget(), each as long as can be
   // Of it only what is read into takes memory.
-  static constexpr std::size_t kRoom = kMostFields * (kLongestField + kLineEnd.size()) + 3 * kBlock;
+  static constexpr std::size_t kRoom = kMostFields * (kLongestField + kLineEnd.size()) + (kMovedPart + 2) * kBlock;
 
   bool refill();
   bool at_end() { return next_ == end_ && !refill(); }
   bool only_blanks_left() const;
-  const char* after_separator(const char* at) const;
   bool next_of_any_kind(Field& field);
 
   file::Input input_;

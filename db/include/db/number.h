@@ -1,19 +1,23 @@
 // Numbers as the files hold them and as the window shows them. No locale, no stream: '.' is the decimal point everywhere.
 #pragma once
 
-#include <charconv>
-#include <limits>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <system_error>
 
 namespace db {
+
+// Most fields are one digit; the functions for longer ones are called by those below.
+inline bool is_digit(std::string_view text) { return text.size() == 1 && text.front() >= '0' && text.front() <= '9'; }
+std::optional<double> parse_longer_number(std::string_view text);
+bool is_longer_formatted(std::string_view text);
 
 // The value of `text` when the whole of it is a number: an optional sign, digits with at most one point (also first or
 // last), an optional exponent as in 1E-05 or 1e5. Nothing for anything else: hexadecimal, infinity, a value that a
 // double cannot hold.
-inline std::optional<double> parse_number(std::string_view text);
+inline std::optional<double> parse_number(std::string_view text) {
+  return is_digit(text) ? text.front() - '0' : parse_longer_number(text);
+}
 
 // The largest number that 15 digits can hold lies below this; with so many the larger ones would round to none.
 inline constexpr double kTooLarge = 1.797693134862315E308;
@@ -25,30 +29,10 @@ void append_number(std::string& out, double value);
 std::string format_number(double value);
 
 // Whether `text` is just what append_number would make of its value, so that it can be copied as it stands.
-inline bool is_formatted(std::string_view text);
+inline bool is_formatted(std::string_view text) { return is_digit(text) || is_longer_formatted(text); }
 
 // A number as the window shows it: as in a file, with one blank in the place of a sign that is not there.
 // numtext(3) is " 3", numtext(-.25) is "-.25".
 std::string numtext(double value);
-
-std::optional<double> parse_any_number(std::string_view text);  // parse_number for the less usual texts
-
-inline std::optional<double> parse_number(std::string_view text) {
-  if (text == "0") return 0;  // every third field
-  // Most fields are short whole numbers, for which the conversion of integers is exact too, and quicker.
-  if (text.size() <= std::numeric_limits<int>::digits10) {
-    int whole = 0;
-    const char* const end = text.data() + text.size();
-    if (const auto [stop, error] = std::from_chars(text.data(), end, whole); stop == end && error == std::errc())
-      return whole;
-  }
-  return parse_any_number(text);
-}
-
-bool is_formatted_longer(std::string_view text);  // is_formatted for more than one character
-
-inline bool is_formatted(std::string_view text) {
-  return text.size() == 1 ? text.front() >= '0' && text.front() <= '9' : is_formatted_longer(text);
-}
 
 }  // namespace db

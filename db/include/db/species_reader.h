@@ -23,10 +23,10 @@ inline constexpr int kHeadFields = 12;
 // One species as the file holds it. All fields are views that end when the next record is read.
 struct Record {
   std::array<Field, kHeadFields> head;
-  std::vector<Field> pairs;  // a stoichiometry and the number of its component, in turn
+  std::span<const Field> pairs;  // a stoichiometry and the number of its component, in turn
   bool has_mb = false;
-  Field mb_count;               // the number of M.B. pairs as it stands in the file
-  std::vector<Field> mb_pairs;  // the same of the M.B. stoichiometries
+  Field mb_count;                   // the number of M.B. pairs as it stands in the file
+  std::span<const Field> mb_pairs;  // the same of the M.B. stoichiometries
 
   std::string_view name() const { return head[kName].text; }
 };
@@ -50,8 +50,8 @@ class SpeciesReader {
   enum class End { None, Marker, Empty, File, Limit };
 
   // Throws file::Error, like every function here: what is wrong, in which file and record.
-  SpeciesReader(file::System& system, const std::string& path) : fields_(system, path) {}
-  SpeciesReader(file::System& system, const std::string& path, std::string name) : fields_(system, path, std::move(name)) {}
+  SpeciesReader(file::System& system, const std::string& path) : SpeciesReader(system, path, path) {}
+  SpeciesReader(file::System& system, const std::string& path, const std::string& name) : fields_(system, path, name) {}
 
   // Reads the fields before the first record. A critical f value that is text is refused.
   LeadingFields read_leading(Leading leading);
@@ -75,11 +75,12 @@ class SpeciesReader {
   template <typename Read>
   auto located(Read read);
   void require(std::span<Field> fields);
-  void read_pairs(std::vector<Field>& pairs, double count, const char* what);
+  std::span<const Field> read_pairs(std::span<Field> room, double count, const char* what);
   const Record* read_record();
 
   FieldReader fields_;
   Record record_;
+  std::array<Field, 2 * kMaxPairs> pairs_, mb_pairs_;
   int records_ = 0;
   End end_ = End::None;
 };

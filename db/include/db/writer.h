@@ -14,8 +14,7 @@ class LineWriter {
   explicit LineWriter(std::string& out) : out_(out) {}
   LineWriter& number(double value);
   LineWriter& text(std::string_view value);  // in double quotes, unless it holds one
-  LineWriter& empty();
-  // A field as read: its type stays, a number takes the form of this writer (1.50 becomes 1.5).
+  // A field as read, {} for an empty one: its type stays, a number takes the form of this writer (1.50 becomes 1.5).
   LineWriter& field(const Field& field);
   void end() { out_ += kLineEnd; }
 

@@ -1,4 +1,4 @@
-// What is done to the open database as a whole: species added, changed or deleted.
+// From the texts of the window to the file: numbers, a record, and species added, changed or deleted.
 #pragma once
 
 #include <optional>
@@ -9,6 +9,14 @@
 #include "edit/display.h"
 
 namespace edit {
+
+// The value of the longest leading part of `text` that is a decimal number: sign, digits with at most one point,
+// exponent. Blanks, tabs and line feeds count as not there; a text that begins with no number gives 0. " 1 2.5x" is 12.5.
+// Throws file::Refusal for a number too large for a double.
+double number_rule(std::string_view text);
+
+// The same after the first comma, if any, has become a point: "1,234,5" is 1.234.
+double comma_number(std::string_view text);
 
 // The two to four lines of the record of a species, from the texts of the window. Texts that are no number count as 0. The
 // number of a component is the fixed one of a surface site, for "#9999" the number after the sign, else that of the

@@ -20,8 +20,7 @@ std::string failure(std::string_view what, const std::string& path, std::error_c
 class Input {
  public:
   // Throws Error when `path` is not a plain file that can be opened; messages call it `name`.
-  Input(System& system, const std::string& path, std::string name);
-  Input(System& system, const std::string& path) : Input(system, path, path) {}
+  Input(System& system, const std::string& path, const std::string& name);
 
   // Reads at most `size` bytes from `offset` on, and none only at the end of the file. Throws Error; `what` says what was
   // tried.

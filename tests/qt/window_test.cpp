@@ -1,0 +1,117 @@
+// What users, screen readers and eyes meet in the window, beyond the stories.
+#include <gtest/gtest.h>
+
+#include <QClipboard>
+#include <QToolTip>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include "qt/qt_player.h"
+#include "support/memory_system.h"
+
+namespace {
+
+// A program in real widgets, on the samples in memory.
+struct QtSeat : support::MemorySystem, player::QtPlayer {
+  QtSeat() : QtPlayer(static_cast<MemorySystem&>(*this)) {
+    for (const auto& entry : std::filesystem::directory_iterator(SAMPLES)) {
+      std::ifstream file(entry.path(), std::ios::binary);
+      add(entry.path().filename().string(), {std::istreambuf_iterator<char>(file), {}});
+    }
+  }
+  void load() {
+    play("load");
+    settle();
+  }
+  void settle() { EXPECT_EQ(differences(), ""); }
+};
+
+TEST(Qt, TakesCharactersOfTheCodePageOnlyAndAsManyAsThereAre) {
+  QtSeat qt;
+  qt.load();
+  auto* edit = qobject_cast<QLineEdit*>(qt.window.widget(app::txtName));
+  edit->clear();
+  edit->setFocus();
+  QApplication::clipboard()->setText(QString::fromUtf8("a\u20ac\u0416b\u0081\u00e9"));
+  edit->paste();
+  EXPECT_EQ(qt.text(app::txtName),
+            "a\x80"
+            "b\x81\xe9");
+  EXPECT_EQ(QToolTip::text().toStdString(),
+            "A character was left out: the files hold only those of the code page Windows-1252.");
+  qt.form.window()[app::txtName].text = std::string(100000, 'n');
+  qt.window.push();
+  qt.settle();
+  EXPECT_EQ(qt.text(app::txtName).size(), 100000u);
+  for (int byte = 1; byte < 256; ++byte) {
+    const std::string text(1, static_cast<char>(byte));
+    const bool line_end = byte == '\r' || byte == '\n';
+    EXPECT_EQ(ui::qt::to_bytes(ui::qt::from_bytes(text)), line_end ? "" : text) << byte;
+  }
+}
+
+TEST(Qt, ListShowsTheFocusInItsFrame) {
+  QtSeat qt;
+  qt.load();
+  EXPECT_TRUE(qt.list()->hasFocus());
+  const QColor frame = qt.list()->palette().color(QPalette::WindowText);
+  qt.window.widget(app::txtID)->setFocus();
+  EXPECT_NE(qt.list()->palette().color(QPalette::WindowText), frame);
+}
+
+TEST(Qt, ShortensAPathInItsMiddleAndACaptionAtItsEnd) {
+  QtSeat qt;
+  qt.load();
+  const auto picture = [&](int control, const std::string& text) {
+    qt.form.window()[control].text = text;
+    qt.window.push();
+    return qt.window.widget(control)->grab().toImage();
+  };
+  const std::string name(160, 'w');
+  const QImage a_path = picture(app::lblNameDb, name + "/a.mdb"), a_text = picture(app::lblComp, name + "a");
+  EXPECT_NE(picture(app::lblNameDb, name + "/b.mdb"), a_path);
+  EXPECT_EQ(picture(app::lblComp, name + "b"), a_text);
+  // In the encoding of file names where it is that, else in the code page.
+  for (const char* path : {"\xc3\xa4.mdb", "\xe4.mdb"}) {
+    picture(app::lblNameDb, path);
+    EXPECT_EQ(qobject_cast<ui::qt::Caption*>(qt.window.widget(app::lblNameDb))->text(), QString::fromUtf8("\u00e4.mdb"));
+  }
+}
+
+// The note about M.B. stoichiometries gives way to the rows that lie over it; boxes above one another are alike.
+TEST(Qt, LaysNothingOverText) {
+  QtSeat qt;
+  qt.add("sorptemp.dat", "freundl.ISO");
+  qt.load();
+  qt.click(app::cmdAddnew);
+  const auto at = [&](int control) { return qt.window.widget(control)->geometry(); };
+  const QRect usual = at(app::lblMBnote);
+  for (int i = 1; i <= 8; ++i) {
+    qt.click(app::cmdNextcomp);
+    EXPECT_EQ(at(app::lblMBnote) == usual, i < 7) << i;
+    for (int j = 0; j < app::kControls; ++j) {
+      if (qt.window.widget(j) == nullptr || !qt.form.window()[j].shown || j == app::lblMBnote) continue;
+      EXPECT_LE(at(j).intersected(at(app::lblMBnote)).height(), 3) << j;
+    }
+    EXPECT_EQ(at(app::txtStoich(i)).height(), at(app::txtID).height());
+  }
+  for (const int control : {app::cboComp, app::cmdNextcomp, app::cmdSuggest})
+    EXPECT_LE(std::abs(at(control).center().y() - at(app::txtStoicn).center().y()), 1);
+  EXPECT_GT(at(app::Label2).left(), at(app::lstReactions).right() + 1);
+  EXPECT_GT(at(app::Line1).top(), at(app::cmdAddnew).bottom());
+  // In a window of any proportions everything keeps its own.
+  const QSize size = qt.window.size();
+  const QRect quit = at(app::cmdQuit);
+  qt.window.resize(size.width() * 2, size.height());
+  QApplication::processEvents();
+  EXPECT_EQ(at(app::cmdQuit), quit);
+  for (const double factor : {.83, 1.21}) {
+    qt.window.resize(size * factor);
+    QApplication::processEvents();
+    for (int i = 1; i <= 8; ++i) EXPECT_EQ(at(app::txtStoich(i)).height(), at(app::txtID).height());
+  }
+}
+
+}  // namespace
