@@ -2,6 +2,7 @@
 #include <benchmark/benchmark.h>
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -89,8 +90,17 @@ void new_content(benchmark::State& state) {
 }
 BENCHMARK(new_content);
 
+// How often this process gave the processor up to wait for something.
+double waits() {
+  rusage usage{};
+  getrusage(RUSAGE_SELF, &usage);
+  return static_cast<double>(usage.ru_nvcsw);
+}
+
 void save(benchmark::State& state) {
+  const double before = waits();
   for (auto _ : state) benchmark::DoNotOptimize(edit::change_species(file::system(), kOpen, kChanged, change(), ""));
+  state.counters["waits"] = (waits() - before) / static_cast<double>(state.iterations());
 }
 BENCHMARK(save);
 
