@@ -58,8 +58,9 @@ def measure_files():
 
 def measure_saving():
     here = os.getcwd()
-    # A flush costs nothing there, and so its milliseconds, which differ from one to the next, do not hide the program's own. Nothing waits
-    # there either: processor time, which does not count what else runs on the machine, is all the time that a save takes.
+    # A flush costs nothing there, and so its milliseconds, which differ from one to the next, do not hide the program's own.
+    # Nothing waits there either: processor time, which does not count what else runs on the machine, is all the time that a
+    # save takes.
     with tempfile.TemporaryDirectory(dir=IN_MEMORY) as folder:
         for name in ("bench.mdb", "comp.mdb"):
             shutil.copy(name, folder)
