@@ -39,8 +39,6 @@ void frmMaindb::run(void (frmMaindb::*handler)()) {
   }
 }
 
-void frmMaindb::load() { run(&frmMaindb::Form_Load); }
-
 void frmMaindb::click(int control) {
   switch (control) {
     case lstReactions: return run(&frmMaindb::lstReactions_Click);
@@ -177,20 +175,8 @@ void frmMaindb::cboIsoterm_Click() {
   Listfill();
 }
 
-void frmMaindb::mnuFileExit_Click() { window_.ended = true; }
-
-void frmMaindb::cmdQuit_Click() { window_.ended = true; }
-
 void frmMaindb::set_shown(std::initializer_list<int> controls, bool shown) {
   for (const int control : controls) window_[control].shown = shown;
-}
-
-void frmMaindb::refuse(std::string_view prompt, std::string_view title) {
-  dialogs_.message(prompt, title, ui::Icon::Critical, ui::Buttons::Ok);
-}
-
-bool frmMaindb::confirm(std::string_view prompt, std::string_view title) {
-  return dialogs_.message(prompt, title, ui::Icon::Question, ui::Buttons::YesNo) == ui::Answer::Yes;
 }
 
 }  // namespace app

@@ -4,7 +4,7 @@
 #include <random>
 #include <sstream>
 
-#include "db/writer.h"
+#include "db/rewrite.h"
 
 namespace bench {
 namespace {

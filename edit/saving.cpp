@@ -10,7 +10,6 @@
 
 #include "db/components.h"
 #include "db/rewrite.h"
-#include "db/writer.h"
 
 namespace edit {
 namespace {

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "bytes_system.h"
-#include "db/writer.h"
+#include "db/rewrite.h"
 
 namespace {
 

@@ -27,7 +27,6 @@
 #include <optional>
 #include <sstream>
 #include <string>
-#include <string_view>
 #include <system_error>
 #include <utility>
 
@@ -109,11 +108,6 @@ class Folder {
  private:
   uid_t user_;
 };
-
-constexpr const char* kAccessList = "system.posix_acl_access";
-// Owner rw, user 1 r, group none, mask r, others none: the system's own form of an access list.
-constexpr std::uint16_t kList[] = {2, 0,      1,      6,  0xFFFF, 0xFFFF, 2,      4,  1, 0,      4,
-                                   0, 0xFFFF, 0xFFFF, 16, 4,      0xFFFF, 0xFFFF, 32, 0, 0xFFFF, 0xFFFF};
 
 // A text that ends at the first blank, and what follows that.
 std::pair<std::string, std::string> split(const std::string& text) {
@@ -214,11 +208,9 @@ class Script {
     return static_cast<Call>(std::ranges::find(support::kCallNames, name) - support::kCallNames);
   }
   static int error_of(Text name) {
-    static const std::map<std::string, int> kErrors{{"EIO", EIO},       {"EACCES", EACCES},   {"EPERM", EPERM},
-                                                    {"EINTR", EINTR},   {"EBUSY", EBUSY},     {"ENOENT", ENOENT},
-                                                    {"EINVAL", EINVAL}, {"ENOLCK", ENOLCK},   {"ENOSYS", ENOSYS},
-                                                    {"EROFS", EROFS},   {"ENOTSUP", ENOTSUP}, {"nothing", 0}};
-    return kErrors.at(name);
+    for (int error = 1; error < 200; ++error)
+      if (const char* const known = ::strerrorname_np(error); known != nullptr && name == known) return error;
+    return 0;
   }
   std::string made(ssize_t result) {
     EXPECT_EQ(result, 0);
@@ -278,17 +270,13 @@ class Script {
     }
     const auto [attribute, text] = split(b);
     if (verb == "needs-attributes") return skips_ = ::setxattr(".", "user.empty", "", 0, 0) != 0, "";
-    if (verb == "list") return made(::setxattr(a.c_str(), kAccessList, kList, sizeof kList, 0));
     if (verb == "note") return made(::setxattr(a.c_str(), attribute.c_str(), text.data(), text.size(), 0));
     if (verb != "attributes") return "no such operation";
     std::string all;
-    for (const std::string name : {kAccessList, "user.empty", "user.note"}) {
+    for (const std::string name : {"system.posix_acl_access", "user.empty", "user.note"}) {
       char value[100];
       const ssize_t size = ::getxattr(a.c_str(), name.c_str(), value, sizeof value);
-      if (size < 0) continue;
-      const auto length = static_cast<std::size_t>(size);
-      all += (all.empty() ? "" : " ") + name + "=" +
-             (name == kAccessList ? std::to_string(length) : std::string(value, length));
+      if (size >= 0) all += "[" + name + "=" + std::string(value, static_cast<std::size_t>(size)) + "]";
     }
     return all;
   }

@@ -6,11 +6,11 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdlib>
-#include <functional>
 #include <map>
 #include <new>
 #include <optional>
 #include <set>
+#include <sstream>
 #include <string>
 #include <system_error>
 #include <vector>
@@ -34,15 +34,8 @@ int allocations_left = -1;  // until one fails; -1: none does
 [[gnu::noinline]] void operator delete(void* memory) noexcept { std::free(memory); }
 [[gnu::noinline]] void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
 
+namespace support {
 namespace {
-
-using support::Call;
-using support::CallInfo;
-using support::Instead;
-using support::kTrailer;
-using support::lines;
-using support::MemorySystem;
-using support::WatchedSystem;
 
 struct Fault {
   Call call;
@@ -73,54 +66,34 @@ std::vector<Instead> failures_of(Call call) {
 const std::string kDatabase =
     lines({"501,\"CuX\",0,1.5,0,0,2,0,0,0,0,1", "1,231", "502,\"FeX\",0,2.5,0,0,2,0,0,0,0,1", "1,330"}) + kTrailer;
 
-// What is tried, and how the program gets there; each try begins anew.
+enum class End { Saved, SavedSilently, Shown };  // silent: a failure is not told
+
+// What is tried: the events before and the one that counts. Each try begins anew.
 struct Operation {
   const char* name;
-  std::vector<std::string> before;
-  int click;            // what begins it
-  bool changes = true;  // the database
-  bool silent = false;  // a failure ends in silence
-  std::function<void(MemorySystem&)> prepare = [](MemorySystem&) {};
+  End end;
+  std::string before;
+  int click;
+  bool leftover = false;  // of a save before
 };
 
-// A database on another file system, open at the start.
-void put_far(MemorySystem& system) {
-  system.add_folder("/far", {.device = 2});
-  system.add("/far/x.mdb", kDatabase);
-  system.add("sorptemp.dat", "/far/x.mdb");
-}
-void put_far_target(MemorySystem& system) {
-  system.add_folder("/far", {.device = 2});
-  system.add("/far/new.mdb", "former");
-}
-
+const std::string kLonger = "type txtName " + std::string(3000, 'n');
 const Operation kOperations[] = {
-    {"change", {"select 1", "type txtlogk 7", "answer Yes"}, app::cmdSavedb},
-    {"change that makes the file longer",
-     {"select 1", "type txtName " + std::string(3000, 'n'), "answer Yes"},
+    {"change", End::Saved, "select 1\ntype txtlogk 7\nanswer Yes", app::cmdSavedb},
+    {"change that makes the file longer", End::Saved, "select 1\n" + kLonger + "\nanswer Yes", app::cmdSavedb},
+    {"change beside a leftover", End::Saved, "select 1\ntype txtlogk 7\nanswer Yes", app::cmdSavedb, true},
+    {"change on another file system", End::Saved,
+     "choose /far/x.mdb\nclick mnuFileOpen\nselect 1\ntype txtlogk 7\nanswer Yes", app::cmdSavedb},
+    {"add", End::Saved,
+     "click cmdAddnew\ntype cboComp Cu+2\ntype txtStoicn 1\ntype txtSpname New\nclick cmdSuggest\ntype txtlogk 1\n"
+     "type txtCharge 1\nanswer Yes",
      app::cmdSavedb},
-    {"change beside a leftover",
-     {"select 1", "type txtlogk 7", "answer Yes"},
-     app::cmdSavedb,
-     true,
-     false,
-     [](MemorySystem& s) { s.add("dbnamep.mdb", "half"); }},
-    {"change on another file system", {"select 1", "type txtlogk 7", "answer Yes"}, app::cmdSavedb, true, false, put_far},
-    {"add",
-     {"click cmdAddnew", "type cboComp Cu+2", "type txtStoicn 1", "type txtSpname New", "click cmdSuggest", "type txtlogk 1",
-      "type txtCharge 1", "answer Yes"},
-     app::cmdSavedb},
-    {"deletion", {"select 0", "answer Yes"}, app::cmdDelete},
-    {"to new", {"select 1", "type txtlogk 7", "choose new.mdb"}, app::cmdNewDb, true, true},
-    {"to new on another file system",
-     {"select 1", "type txtlogk 7", "choose /far/new.mdb"},
-     app::cmdNewDb,
-     true,
-     true,
-     put_far_target},
-    {"load", {"choose x.mdb"}, app::mnuFileOpen, false, true},
-    {"display", {"select 1"}, app::lstReactions, false, true},
-    {"suggestion", {"click cmdAddnew"}, app::cmdSuggest, false, true},
+    {"deletion", End::Saved, "select 0\nanswer Yes", app::cmdDelete},
+    {"to new", End::SavedSilently, "select 1\ntype txtlogk 7\nchoose new.mdb", app::cmdNewDb},
+    {"to new on another file system", End::SavedSilently, "select 1\ntype txtlogk 7\nchoose /far/new.mdb", app::cmdNewDb},
+    {"load", End::Shown, "choose x.mdb", app::mnuFileOpen},
+    {"display", End::Shown, "select 1", app::lstReactions},
+    {"suggestion", End::Shown, "click cmdAddnew", app::cmdSuggest},
 };
 
 using Files = std::map<std::string, std::string>;
@@ -130,11 +103,15 @@ class Attempt {
   explicit Attempt(const Operation& operation) : operation_(operation) {
     memory.add("dabase.txt", "C");
     memory.add("sorptemp.dat", "x.mdb");
-    memory.add("comp.mdb", support::kComponents);
+    memory.add("comp.mdb", kComponents);
     memory.add("x.mdb", kDatabase);
-    operation.prepare(memory);
+    memory.add_folder("/far", {.device = 2});
+    memory.add("/far/x.mdb", kDatabase);
+    memory.add("/far/new.mdb", "former");
+    if (operation.leftover) memory.add("dbnamep.mdb", "half");
     program.form.load();
-    for (const std::string& event : operation.before) program.play(event);
+    std::istringstream events(operation.before);
+    for (std::string event; std::getline(events, event);) program.play(event);
     before = memory.all();
     program.told.clear();
     program.told.reserve(10);
@@ -241,16 +218,16 @@ TEST(Fault, CostsNoRecord) {
     Attempt usual(operation);
     usual.run();
     const Files whole = usual.memory.all();
-    EXPECT_EQ(whole != usual.before, operation.changes) << operation.name;
+    EXPECT_EQ(whole != usual.before, operation.end != End::Shown) << operation.name;
     const auto fails_with = [&](const Fault& fault) {
-      SCOPED_TRACE(std::string(operation.name) + ", " + std::string(support::kCallNames[static_cast<int>(fault.call)]) +
-                   " no. " + std::to_string(fault.nth) + ": " +
-                   (fault.instead.half ? "half" : fault.instead.error.message()) + (fault.for_ever ? " for ever" : ""));
+      SCOPED_TRACE(std::string(operation.name) + ", " + std::string(kCallNames[static_cast<int>(fault.call)]) + " no. " +
+                   std::to_string(fault.nth) + ": " + (fault.instead.half ? "half" : fault.instead.error.message()) +
+                   (fault.for_ever ? " for ever" : ""));
       Attempt attempt(operation);
       if (!attempt.run(fault)) return false;
       // One that another editor has taken is that one's to remove.
       attempt.check(whole, fault.call == Call::Remove || fault.call == Call::ExcludeOthers);
-      if (operation.silent || !operation.changes) return true;
+      if (operation.end != End::Saved) return true;
       const Files after = attempt.memory.all();
       const bool saved = std::ranges::includes(after, whole);
       const bool told = attempt.program.told.size() > usual.program.told.size();
@@ -268,3 +245,4 @@ TEST(Fault, CostsNoRecord) {
 }
 
 }  // namespace
+}  // namespace support

@@ -8,7 +8,6 @@
 #include <iostream>
 #include <map>
 #include <optional>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -16,12 +15,8 @@
 #include "support/memory_system.h"
 #include "support/watched_system.h"
 
+namespace support {
 namespace {
-
-using support::Call;
-using support::CallInfo;
-using support::MemorySystem;
-using support::WatchedSystem;
 
 // The names and contents of a disk, the files by their number.
 struct Disk {
@@ -138,7 +133,7 @@ Found replace(const std::string& target, const std::string& fresh, std::optional
   memory.add("dbnamep.mdb", "a leftover");
   Recorder recorder(memory);
   recorder.watched.before = [&](const CallInfo& info) {
-    return info.call == ignored ? std::optional(support::Instead{}) : std::nullopt;
+    return info.call == ignored ? std::optional(Instead{}) : std::nullopt;
   };
   Found found;
   recorder.during = [&](const Disk& disk) { found.mixed += disk.content(target) != kOld && disk.content(target) != fresh; };
@@ -172,3 +167,4 @@ TEST(PowerCut, IsFeltWithoutEitherFlush) {
 }
 
 }  // namespace
+}  // namespace support

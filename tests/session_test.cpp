@@ -21,16 +21,9 @@ class Databases {
   std::string database(const std::string& leading) {
     std::string content = leading;
     for (unsigned i = next(6); i > 0; --i) content += record();
-    static const std::string kEnds[] = {support::kTrailer,
-                                        support::kTrailer,
-                                        support::kTrailer,
-                                        "",
-                                        "\r\n",
-                                        "\x1a\r\n",
-                                        "\r\n" + support::kTrailer,
-                                        "\r\n5,hidden,0,0,0,0,0,0,0,0,0,0\r\n",
-                                        "7,cut,0"};
-    content += kEnds[next(9)];
+    static const char* const kOddEnds[] = {"", "\r\n", "\x1a\r\n", "\r\n5,hidden,0,0,0,0,0,0,0,0,0,0\r\n", "7,cut,0"};
+    const unsigned end = next(9);
+    content += end < 5 ? kOddEnds[end] : end == 5 ? "\r\n" + support::kTrailer : support::kTrailer;
     for (unsigned i = next(8) == 0 ? 1 + next(3) : 0; i > 0 && !content.empty(); --i)
       content[next(static_cast<unsigned>(content.size()))] = "\",\r\n 0x9\t"[next(9)];
     return content;

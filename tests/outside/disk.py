@@ -37,7 +37,7 @@ try:
             room = os.statvfs(disk)
             with open(folder.file("filler"), "wb") as filler:
                 filler.write(bytes(max(0, room.f_bavail * room.f_frsize - free)))
-            _, lines, _ = folder.play(STORIES["change"])
+            _, lines = folder.play(STORIES["change"])
             after = folder.read("x.mdb")
             changed = after != big and after.count(b'"Sp') == 2000 and after.endswith(TRAILER) and b'"Sp1",0,7' in after
             told = len(boxes(lines)) == 2
@@ -54,7 +54,7 @@ try:
     with Folder(None, name="far.mdb") as folder, Folder(where=disk) as far:
         folder.write("sorptemp.dat", far.file("x.mdb").encode())
         os.chmod(far.file("x.mdb"), 0o640)
-        _, lines, _ = folder.play(STORIES["change"])
+        _, lines = folder.play(STORIES["change"])
         if far.read("x.mdb") != new or os.stat(far.file("x.mdb")).st_mode & 0o777 != 0o640:
             fail("another file system: not saved as it should: %s" % lines)
         if sorted(os.listdir(far.path)) != ["comp.mdb", "dabase.txt", "sorptemp.dat", "x.mdb"]:
@@ -77,7 +77,7 @@ with Folder() as folder:
         fail("permissions or owner were lost")
 with Folder() as folder:
     os.link(folder.file("x.mdb"), folder.file("y.mdb"))
-    _, lines, _ = folder.play(STORIES["change"])
+    _, lines = folder.play(STORIES["change"])
     if "several names" not in boxes(lines)[-1] or folder.read("y.mdb") != DATABASE:
         fail("a file with two names was not refused")
 
@@ -86,14 +86,14 @@ with Folder() as folder:
     as_nobody = ["setpriv", "--reuid=65534", "--regid=65534", "--clear-groups"]
     os.chmod(folder.path, 0o777)
     os.chmod(folder.file("x.mdb"), 0o444)
-    _, lines, _ = folder.play(STORIES["change"], as_nobody)
+    _, lines = folder.play(STORIES["change"], as_nobody)
     if "x.mdb is read-only" not in boxes(lines)[-1] or folder.read("x.mdb") != DATABASE:
         fail("a read-only database was not refused: %s" % lines)
     os.mkdir(folder.file("closed"))
     os.rename(folder.file("x.mdb"), folder.file("closed/x.mdb"))
     os.chmod(folder.file("closed/x.mdb"), 0o666)
     folder.write("sorptemp.dat", b"closed/x.mdb")
-    _, lines, _ = folder.play(STORIES["change"], as_nobody)
+    _, lines = folder.play(STORIES["change"], as_nobody)
     if "does not let a file be replaced" not in boxes(lines)[-1] or folder.read("closed/x.mdb") != DATABASE:
         fail("a database in a closed folder was not refused: %s" % lines)
 
@@ -103,13 +103,13 @@ with Folder() as folder:
     folder.write("dbnamep.mdb", b"half")
     os.chmod(folder.file("dbnamep.mdb"), 0o600)
     os.chmod(folder.file("x.mdb"), 0o666)
-    _, lines, _ = folder.play(STORIES["change"], as_nobody)
+    _, lines = folder.play(STORIES["change"], as_nobody)
     if "dbnamep.mdb belongs to root" not in boxes(lines)[-1] or folder.read("x.mdb") != DATABASE:
         fail("another user's leftover was not told as that: %s" % lines)
     os.remove(folder.file("dbnamep.mdb"))
     os.chmod(folder.path, 0o1777)
     folder.write("sorptemp.dat", b"x.mdb")
-    _, lines, _ = folder.play(STORIES["change"], as_nobody)
+    _, lines = folder.play(STORIES["change"], as_nobody)
     if "does not let a file be replaced" not in boxes(lines)[-1] or folder.read("x.mdb") != DATABASE:
         fail("another's file in a sticky folder was not refused: %s" % lines)
 
@@ -121,7 +121,7 @@ for mode, saved in ((0o664, False), (0o666, True), (0o644, True), (0o660, False)
         os.chown(folder.file("x.mdb"), 65534, 12345)
         os.remove(folder.file("sorptemp.dat"))
         folder.write("sorptemp.dat", b"x.mdb")
-        _, lines, _ = folder.play(STORIES["change"], as_nobody)
+        _, lines = folder.play(STORIES["change"], as_nobody)
         if (folder.read("x.mdb") == new) != saved or (len(boxes(lines)) == 1) != saved:
             fail("a group that cannot be kept, mode %o: %s" % (mode, boxes(lines)))
 

@@ -26,7 +26,7 @@ def run(folder, story, inject=()):
         options += ["-P", folder.file("dbnamep.mdb"), "-P", folder.file("new.mdb.dbnamep")]
     with tempfile.NamedTemporaryFile() as log:
         # The standard streams of the player itself are left alone: only what follows the working folder counts.
-        status, lines, _ = folder.play(story, ["strace", "-qq", "-o", log.name, "-e", "trace=" + ",".join(CALLS), *options])
+        status, lines = folder.play(story, ["strace", "-qq", "-o", log.name, "-e", "trace=" + ",".join(CALLS), *options])
         return status, lines, log.read().decode("latin-1").split("\n")
 
 
@@ -58,7 +58,7 @@ def check(name, story, folder, what, lines, usual, new, killed):
             fail("%s, %s: a temporary file is left behind" % (name, what))
     folder.write("sorptemp.dat", b"x.mdb")
     if name == "change":
-        _, again, _ = folder.play(story)
+        _, again = folder.play(story)
         if folder.read("x.mdb") != new["x.mdb"] or len(boxes(again)) != 1:
             fail("%s, %s: the next saving does not work: %s" % (name, what, boxes(again)[-1:]))
 
@@ -86,7 +86,7 @@ for name, story in STORIES.items():
 
 # The size of files limited: an error of the write, not the end of the program.
 with Folder() as folder:
-    status, lines, _ = folder.play(STORIES["change"], ["bash", "-c", 'ulimit -f 1; exec "$0"'])
+    status, lines = folder.play(STORIES["change"], ["bash", "-c", 'ulimit -f 1; exec "$0"'])
     if status != 0 or "cannot write dbnamep.mdb: File too large" not in boxes(lines)[-1] or folder.read("x.mdb") != DATABASE:
         fail("a limit on the size of files: %s %s" % (status, boxes(lines)))
 

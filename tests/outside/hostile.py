@@ -25,11 +25,9 @@ CONTENTS = {
 }
 
 
-def check(what, folder, status, kept):
+def check(what, folder, status):
     if status != 0:
         fail("%s: ended with %s" % (what, status))
-    if kept is not None and folder.read("x.mdb") != kept:
-        fail("%s: a database was changed that could not be read" % what)
     if folder.read("dbnamep.mdb") is not None:
         fail("%s: a temporary file is left behind" % what)
 
@@ -37,21 +35,21 @@ def check(what, folder, status, kept):
 for what, content in CONTENTS.items():
     for name in ("x.mdb", "x.iso", "x.bli"):
         with Folder(content, name=name) as folder:
-            status, lines, _ = folder.play(STORY, memory=MEMORY)
-            check("%s as %s" % (what, name), folder, status, None)
+            status, lines = folder.play(STORY, memory=MEMORY)
+            check("%s as %s" % (what, name), folder, status)
             blank = not content.strip(b" \r\n")  # is as good as no content
             if len(content) >= 100_000_000 and not blank and folder.read(name) != content:
                 fail("%s as %s: the file was changed" % (what, name))
     with Folder() as folder:
         folder.write("comp.mdb", content)
-        status, lines, _ = folder.play(STORIES["change"] + STORY.replace("load\n", ""), memory=MEMORY)
-        check(what + " as component database", folder, status, None)
+        status, lines = folder.play(STORIES["change"] + STORY.replace("load\n", ""), memory=MEMORY)
+        check(what + " as component database", folder, status)
         if folder.read("x.mdb").count(b'"Sp') < 39:
             fail(what + " as component database: a species was lost")
     for hand_over in ("dabase.txt", "sorptemp.dat"):
         with Folder() as folder:
             folder.write(hand_over, content)
-            status, lines, _ = folder.play("load\nstate\n", memory=MEMORY)
+            status, lines = folder.play("load\nstate\n", memory=MEMORY)
             if status not in (0, 1):
                 fail("%s as %s: ended with %s" % (what, hand_over, status))
 
@@ -62,7 +60,7 @@ for name in ("x.mdb", "comp.mdb", "sorptemp.dat", "dabase.txt", "dbnamep.mdb", "
             if os.path.lexists(folder.file(name)):
                 os.remove(folder.file(name))
             make(folder.file(name))
-            status, lines, _ = folder.play(STORIES["change"] + "choose new.mdb\nclick cmdNewDb\n")
+            status, lines = folder.play(STORIES["change"] + "choose new.mdb\nclick cmdNewDb\n")
             if status not in (0, 1):
                 fail("a %s as %s: ended with %s" % (what, name, status))
             if os.path.isfile(folder.file("x.mdb")) and folder.read("x.mdb").count(b'"Sp') != 40:
@@ -74,7 +72,7 @@ for name in ("x.mdb", "comp.mdb", "sorptemp.dat", "dabase.txt", "dbnamep.mdb", "
 whole = DATABASE[:400]
 for cut in range(len(whole)):
     with Folder(whole[:cut]) as folder:
-        status, lines, _ = folder.play("load\nselect 0\ntype txtlogk 7\nanswer Yes\nclick cmdSavedb\n")
+        status, lines = folder.play("load\nselect 0\ntype txtlogk 7\nanswer Yes\nclick cmdSavedb\n")
         after = folder.read("x.mdb")
         complete = whole[:cut].count(b"\r\n1,231")
         if status != 0 or after.count(b'"Sp') < complete:

@@ -37,4 +37,9 @@ class QtPlayer : public Player {
   void do_close() override { window.close(); }
 };
 
+// Shows a real dialog: "tell" or "ask" a text, or one for a file to "open", to "save" to with an extension, or to "name".
+// The replies, with bars between, are keys, buttons, "close", or a name that is typed. Writes what the dialog shows and
+// gives.
+void play_dialog(QWidget* parent, const std::string& form, const std::string& text, const QString& replies);
+
 }  // namespace player

@@ -7,6 +7,7 @@
 // KEY as in Ctrl+A; both it and TEXT go to the focus. PLACE is an entry of the list, or "empty", below them. What is
 // dictated comes as from a screen reader, and "describe" tells what that reads, with the tooltip.
 #include <QAccessible>
+#include <QClipboard>
 #include <QHelpEvent>
 #include <QKeySequence>
 #include <QToolTip>
@@ -52,6 +53,10 @@ class CheckedPlayer final : public QtPlayer {
       QTest::keyClick(focus, key.key(), key.keyboardModifiers());
     } else if (verb == "keys") {
       QTest::keyClicks(focus, ui::qt::from_bytes(what));
+    } else if (verb == "paste") {
+      QApplication::clipboard()->setText(QString::fromStdString(what));
+      qobject_cast<QLineEdit*>(focus)->paste();
+      std::cout << "tooltip [" << QToolTip::text().toStdString() << "]\n";
     } else if (verb == "mouse" && how == "Double") {
       QTest::mouseDClick(viewport, Qt::LeftButton, {}, at(what));
     } else if (verb == "mouse") {
@@ -68,6 +73,10 @@ class CheckedPlayer final : public QtPlayer {
       std::cout << "cursor " << qobject_cast<QLineEdit*>(widget)->cursorPosition() << '\n';
     } else if (verb == "dictate") {
       QAccessible::queryAccessibleInterface(widget)->setText(QAccessible::Value, QString::fromStdString(how));
+    } else if (verb == "dialog") {
+      std::string text;
+      std::getline(words >> std::ws, text);
+      player::play_dialog(&window, what, text, QString::fromStdString(how));
     } else if (verb == "current") {
       list()->setCurrentIndex(list()->model()->index(std::stoi(what), 0));
     } else if (verb == "press") {
@@ -127,7 +136,7 @@ class CheckedPlayer final : public QtPlayer {
     if (open && form.window().ended) std::cout << "the window stays open\n";
     for (int i = 0; open && i < app::kControls; ++i) {
       const auto* caption = qobject_cast<ui::qt::Caption*>(window.widget(i));
-      const bool cut = caption != nullptr && caption->is_shortened() && !app::window_def().controls[i].path;
+      const bool cut = caption != nullptr && caption->is_shortened() && !app::window_def().controls[static_cast<std::size_t>(i)].path;
       if (cut) std::cout << name_of(caption) << " is cut\n";
     }
   }

@@ -29,18 +29,9 @@ void MemorySystem::add(const std::string& path, std::string content) {
   files_[absolute(path)] = file;
 }
 
-void MemorySystem::link(const std::string& path, const std::string& to) {
-  add(path, to);
-  at(path).type = Type::Link;
-}
-
-void MemorySystem::hard_link(const std::string& path, const std::string& existing) {
-  files_[absolute(path)] = files_.at(absolute(existing));
-}
-
 std::string MemorySystem::content(const std::string& path) const {
-  const auto found = files_.find(followed(path));
-  return found == files_.end() ? "(missing)" : found->second->content;
+  const auto file = find(followed(path));
+  return file == nullptr ? "(missing)" : file->content;
 }
 
 std::map<std::string, std::string> MemorySystem::all() const {
@@ -49,12 +40,17 @@ std::map<std::string, std::string> MemorySystem::all() const {
   return contents;
 }
 
+std::shared_ptr<MemorySystem::File> MemorySystem::find(const std::string& path) const {
+  const auto found = files_.find(path);
+  return found == files_.end() ? nullptr : found->second;
+}
+
 std::string MemorySystem::followed(const std::string& path) const {
   std::string at = absolute(path);
   for (int i = 0; i < 8; ++i) {
-    const auto found = files_.find(at);
-    if (found == files_.end() || found->second->type != Type::Link) break;
-    at = absolute(found->second->content);
+    const auto file = find(at);
+    if (file == nullptr || file->type != Type::Link) break;
+    at = absolute(file->content);
   }
   return at;
 }
@@ -82,13 +78,12 @@ file::Status MemorySystem::status_of(const std::string& path, const File& file) 
 }
 
 std::error_code MemorySystem::open(const std::string& path, Handle& handle) {
-  const auto found = files_.find(path);
-  if (found == files_.end()) return failed(std::errc::no_such_file_or_directory);
-  if (found->second->type == Type::Folder) return failed(std::errc::is_a_directory);
-  if (found->second->type == Type::Link) return failed(std::errc::too_many_symbolic_link_levels);
-  if (found->second->type != Type::Plain) return failed(std::errc::invalid_argument);
-  handle = next_handle_++;
-  handles_[handle].file = found->second;
+  const auto file = find(path);
+  if (file == nullptr) return failed(std::errc::no_such_file_or_directory);
+  if (file->type == Type::Folder) return failed(std::errc::is_a_directory);
+  if (file->type == Type::Link) return failed(std::errc::too_many_symbolic_link_levels);
+  if (file->type != Type::Plain) return failed(std::errc::invalid_argument);
+  handles_[handle = next_handle_++].file = file;
   return {};
 }
 
@@ -135,14 +130,12 @@ std::error_code MemorySystem::write(Handle handle, std::string_view bytes, std::
 }
 
 std::error_code MemorySystem::take_over(Handle handle, const std::string& path) {
-  const auto found = files_.find(followed(path));
-  if (found == files_.end()) return failed(std::errc::no_such_file_or_directory);
-  handles_.at(handle).file->mode = found->second->mode;
+  const auto like = find(followed(path));
+  if (like == nullptr) return failed(std::errc::no_such_file_or_directory);
+  handles_.at(handle).file->mode = like->mode;
   touch(*handles_.at(handle).file);
   return {};
 }
-
-std::error_code MemorySystem::flush(Handle) { return {}; }
 
 std::error_code MemorySystem::close(Handle handle) {
   if (handles_.at(handle).holds_lock) handles_.at(handle).file->locked = false;
@@ -152,9 +145,9 @@ std::error_code MemorySystem::close(Handle handle) {
 
 std::error_code MemorySystem::status(const std::string& path, file::Follow follow, file::Status& status) {
   const std::string at = follow == file::Follow::Links ? followed(path) : absolute(path);
-  const auto found = files_.find(at);
-  status = found == files_.end() ? file::Status() : status_of(at, *found->second);
-  const bool loops = follow == file::Follow::Links && found != files_.end() && found->second->type == Type::Link;
+  const auto file = find(at);
+  status = file == nullptr ? file::Status() : status_of(at, *file);
+  const bool loops = follow == file::Follow::Links && status.type == Type::Link;
   return loops ? failed(std::errc::too_many_symbolic_link_levels) : std::error_code();
 }
 
@@ -165,8 +158,6 @@ std::error_code MemorySystem::status(Handle handle, file::Status& status) {
     if (other == file) status = status_of(path, *file);
   return {};
 }
-
-std::string MemorySystem::owner_of(const std::string& path) { return at(path).owner; }
 
 std::error_code MemorySystem::without_links(const std::string& path, std::string& real) {
   real = followed(path);
@@ -187,18 +178,11 @@ std::error_code MemorySystem::rename(const std::string& from, const std::string&
 }
 
 std::error_code MemorySystem::remove(const std::string& path) {
-  const auto found = files_.find(absolute(path));
-  if (found == files_.end()) return failed(std::errc::no_such_file_or_directory);
-  if (!may_change_names(found->first)) return failed(std::errc::permission_denied);
-  touch(*found->second);
-  files_.erase(found);
-  return {};
-}
-
-std::error_code MemorySystem::flush_folder_of(const std::string&) { return {}; }
-
-std::error_code MemorySystem::current_folder(std::string& folder) {
-  folder = current_;
+  const std::string at = absolute(path);
+  if (find(at) == nullptr) return failed(std::errc::no_such_file_or_directory);
+  if (!may_change_names(at)) return failed(std::errc::permission_denied);
+  touch(*find(at));
+  files_.erase(at);
   return {};
 }
 
@@ -207,9 +191,5 @@ std::error_code MemorySystem::change_folder(const std::string& folder) {
   current_ = folder;
   return {};
 }
-
-std::error_code MemorySystem::change_drive(char) { return {}; }
-
-void MemorySystem::pause(std::chrono::milliseconds) { meanwhile(); }
 
 }  // namespace support

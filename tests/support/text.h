@@ -1,7 +1,6 @@
 // The lines of databases, and the characters of tables.
 #pragma once
 
-#include <algorithm>
 #include <string>
 #include <string_view>
 

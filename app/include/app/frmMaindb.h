@@ -42,7 +42,7 @@ class frmMaindb final : public ui::Form {
 
   const ui::WindowDef& definition() const override { return window_def(); }
   ui::Window& window() override { return window_; }
-  void load() override;
+  void load() override { run(&frmMaindb::Form_Load); }
   void click(int control) override;
 
  private:
@@ -55,8 +55,8 @@ class frmMaindb final : public ui::Form {
   void mnuFileOpen_Click();
   void cmdCompdb_Click();
   void cboIsoterm_Click();
-  void mnuFileExit_Click();
-  void cmdQuit_Click();
+  void mnuFileExit_Click() { window_.ended = true; }
+  void cmdQuit_Click() { window_.ended = true; }
 
   // One species (frmMaindb_species.cpp).
   void lstReactions_Click();
@@ -103,8 +103,12 @@ class frmMaindb final : public ui::Form {
     }
     return std::nullopt;
   }
-  void refuse(std::string_view prompt, std::string_view title = "Kelmar error");
-  bool confirm(std::string_view prompt, std::string_view title);
+  void refuse(std::string_view prompt, std::string_view title = "Kelmar error") {
+    dialogs_.message(prompt, title, ui::Icon::Critical, ui::Buttons::Ok);
+  }
+  bool confirm(std::string_view prompt, std::string_view title) {
+    return dialogs_.message(prompt, title, ui::Icon::Question, ui::Buttons::YesNo) == ui::Answer::Yes;
+  }
 
   ui::Dialogs& dialogs_;
   file::System& system_;

@@ -1,5 +1,4 @@
-// Rewrites a whole species database: its records are read one after another, each is kept or another is put in its place,
-// and the result takes the place of the file in one step (file/replacement.h).
+// Writes the lines of a species database, and a whole database anew.
 #pragma once
 
 #include <optional>
@@ -10,6 +9,29 @@
 #include "file/replacement.h"
 
 namespace db {
+
+// One line: values between commas, without blanks.
+class LineWriter {
+ public:
+  explicit LineWriter(std::string& out) : out_(out) {}
+  LineWriter& number(double value);
+  LineWriter& text(std::string_view value);  // in double quotes, unless it holds one
+  // A field as read, {} for an empty one: its type stays, a number takes the form of this writer (1.50 becomes 1.5).
+  LineWriter& field(const Field& field);
+  void end() { out_ += kLineEnd; }
+
+ private:
+  std::string& next();  // the line, ready for one more value
+
+  std::string& out_;
+  bool first_ = true;
+};
+
+// A record unchanged. Reading the result gives the same values.
+void append_record(std::string& out, const Record& record);
+
+// The fields before the first record, each group on lines of its own.
+void append_leading(std::string& out, const LeadingFields& fields);
 
 inline constexpr const char* kTemporaryFile = "dbnamep.mdb";  // in the working folder, during a rewrite only
 
@@ -25,6 +47,8 @@ struct NewLeading {
 // What the user has to be told when the name of the file says another kind than it holds.
 std::optional<std::string> misnamed(const Database& open);
 
+// The records of the open database are read one after another, each is kept or another is put in its place, and the result
+// takes the place of the file in one step (file/replacement.h).
 class Rewrite {
  public:
   // Begins with the leading fields of the kind held, whatever the path says. Throws file::Refusal or file::Error when the
