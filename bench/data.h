@@ -10,6 +10,12 @@ namespace bench {
 inline constexpr int kSpecies = 3999;
 inline constexpr int kComponents = 400;
 
+// The files that make_files makes.
+inline constexpr const char* kDatabase = "bench.mdb";  // kSpecies
+inline constexpr const char* kComponentDatabase = "comp.mdb";
+inline constexpr const char* kMillion = "million.mdb";      // 1,000,000 species
+inline constexpr const char* kFirst4000 = "first4000.mdb";  // the first 4000 of them
+
 // Species with 2 to 6 components and constants of 2 to 4 decimals, from a fixed seed; ID numbers from 1500020 up, the order
 // in which ID numbers are suggested for components 150 and 2, without a gap among the candidates.
 std::string make_database(int species);

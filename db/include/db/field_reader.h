@@ -72,7 +72,7 @@ class FieldReader {
   const std::string& name() const { return input_.name(); }
 
  private:
-  static constexpr std::size_t kBlock = 64 * 1024;  // bytes read at a time
+  static constexpr std::size_t kBlock = 32 * 1024;  // bytes read at a time
   static constexpr int kMovedPart = 16;             // of what was read at most a 16th is moved
   static constexpr std::size_t kMostFields = 64;    // between two calls of forget(), each as long as can be
   // Of it only what is read into takes memory.
