@@ -12,20 +12,10 @@ std::string SpeciesReader::located_text(const std::string& reason) const {
     where += ", before the first record";
   } else {
     where += ", record " + std::to_string(records_);
-    if (record_.head[kId].type() != FieldType::Empty && !record_.name().empty())
+    if (!record_.head[kId].is_empty() && !record_.name().empty())
       where.append(" (").append(file::named(record_.name())).append(")");
   }
   return where + ": " + reason + ".";
-}
-
-// Whatever is wrong with a field is told with file and record.
-template <typename Read>
-auto SpeciesReader::located(Read read) {
-  try {
-    return read();
-  } catch (const FieldError& error) {
-    fail(error.what());
-  }
 }
 
 void SpeciesReader::require(std::span<Field> fields) {
@@ -33,13 +23,13 @@ void SpeciesReader::require(std::span<Field> fields) {
 }
 
 LeadingFields SpeciesReader::read_leading(Leading leading) {
-  return located([&] {
+  try {
     LeadingFields read{.which = leading};
     std::array<Field, 3> fields;
     if (leading == Leading::Model) {
       require(std::span(fields).first(1));
       read.model = fields[0].text;
-      read.model_is_empty = fields[0].type() == FieldType::Empty;
+      read.model_is_empty = fields[0].is_empty();
     }
     if (leading == Leading::Blm) {
       require(fields);
@@ -51,9 +41,11 @@ LeadingFields SpeciesReader::read_leading(Leading leading) {
       read.label = fields[1].text;
       read.critical_f = *critical_f;
     }
-    read.begins_with_number = fields[0].type() == FieldType::Number;
+    read.begins_with_number = !fields[0].quoted && !fields[0].is_empty() && fields[0].number();
     return read;
-  });
+  } catch (const FieldError& error) {
+    fail(error.what());
+  }
 }
 
 const Record* SpeciesReader::next() {
@@ -64,7 +56,11 @@ const Record* SpeciesReader::next() {
   if (end_ != End::None) return nullptr;
   ++records_;
   record_.head[kId] = record_.head[kName] = {};
-  return located([this] { return read_record(); });
+  try {
+    return read_record();
+  } catch (const FieldError& error) {
+    fail(error.what());
+  }
 }
 
 bool SpeciesReader::hides_more() {
@@ -86,7 +82,7 @@ bool SpeciesReader::hides_more() {
 const Record* SpeciesReader::read_record() {
   const bool complete = fields_.next(record_.head);
   const Field& id = record_.head[kId];
-  if (!complete && id.type() == FieldType::Empty)
+  if (!complete && id.is_empty())
     refuse(
         "an empty line or field begins the record, and the file ends inside it; in a rewrite what stands there would be "
         "lost. Remove the empty line with a text editor");

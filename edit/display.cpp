@@ -12,14 +12,12 @@ namespace {
 
 using db::numtext;
 
-bool is_empty(const db::Field& field) { return field.type() == db::FieldType::Empty; }
-
 // Of several M.B. stoichiometries of a component the last counts.
 std::string mb_text(const db::SpeciesReader& reader, std::span<const db::Field> pairs, const db::Field& compno) {
   for (std::size_t i = pairs.size(); i > 0; i -= 2) {
     const db::Field& stoich = pairs[i - 2];
     if (pairs[i - 1].number() == compno.number())
-      return is_empty(stoich) ? "" : numtext(reader.number(stoich, "the M.B. stoichiometry"));
+      return stoich.is_empty() ? "" : numtext(reader.number(stoich, "the M.B. stoichiometry"));
   }
   return "";
 }
@@ -34,14 +32,14 @@ void show_rows(file::System& system, const db::Database& open, const db::Species
                    "Change this species with a text editor.";
   std::vector<double> compno;  // of the rows that have one
   for (std::size_t i = 0; i < rows; ++i)
-    if (!is_empty(pairs[2 * i + 1])) compno.push_back(reader.number(pairs[2 * i + 1], "the component number"));
+    if (!pairs[2 * i + 1].is_empty()) compno.push_back(reader.number(pairs[2 * i + 1], "the component number"));
   const auto found = compno.empty() ? db::ComponentNames() : db::component_names(system, open.compdb, compno);
   if (found.failure)
     shown.notice = "The components are shown by number: " + *found.failure +
                    " Choose another component database, or mend this one." + (shown.notice ? " " + *shown.notice : "");
   for (std::size_t i = 0, at = 0; i < rows; ++i) {
     Row row{.stoich = numtext(reader.number(pairs[2 * i], "the stoichiometry")), .comp = "#", .mbstoich = ""};
-    if (!is_empty(pairs[2 * i + 1])) {
+    if (!pairs[2 * i + 1].is_empty()) {
       row.comp = shown_name(found.names[at].value_or("#"), compno[at]);
       ++at;
     }

@@ -12,7 +12,7 @@
 #include "db/database.h"
 #include "edit/display.h"
 #include "edit/suggestion.h"
-#include "file/error.h"
+#include "file/input.h"
 #include "ui/dialogs.h"
 #include "ui/window.h"
 

@@ -22,8 +22,6 @@ constexpr std::string_view trimmed(std::string_view text) {
   return first == std::string_view::npos ? std::string_view() : text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
-enum class FieldType { Empty, Number, Text };
-
 // One field as read: a view into what its reader holds, converted only when asked for. `text` is the value without quotes
 // and surrounding blanks.
 struct Field {
@@ -31,11 +29,7 @@ struct Field {
   bool quoted = false;
 
   // A quoted field is text, whatever it holds; `""` is a text too.
-  FieldType type() const {
-    if (quoted) return FieldType::Text;
-    if (text.empty()) return FieldType::Empty;
-    return parse_number(text) ? FieldType::Number : FieldType::Text;
-  }
+  bool is_empty() const { return !quoted && text.empty(); }
 
   // The value where a number is needed: an empty field counts as 0, and a text that reads as a number as that number.
   // Nothing for any other text.

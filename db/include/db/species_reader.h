@@ -69,8 +69,6 @@ class SpeciesReader {
 
  private:
   std::string located_text(const std::string& reason) const;
-  template <typename Read>
-  auto located(Read read);
   void require(std::span<Field> fields);
   std::span<const Field> read_pairs(std::span<Field> room, double count, const char* what);
   const Record* read_record();
