@@ -1,4 +1,7 @@
-# Sourced: install_missing PACKAGE... installs what is not there yet, as root or with sudo.
+# Sourced. The package of the compiler that CXX names, and install_missing PACKAGE..., which installs what is not there yet, as
+# root or with sudo.
+case "${CXX:-}" in *clang*) compiler=clang ;; *) compiler=g++ ;; esac
+
 install_missing() {
   local missing=() package
   for package in "$@"; do
