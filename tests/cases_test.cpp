@@ -163,25 +163,20 @@ std::string control(const Arguments& arguments) {
   const auto def = std::ranges::find(controls, arguments[0], &ui::ControlDef::name);
   if (def == controls.end()) return "none";
   std::ostringstream text;
-  const auto note = [&text](bool holds, const char* what, const auto&... values) {
-    if (holds) text << what, ((text << " " << values), ...);
+  const auto place = [&](const char* what, const ui::Place& at) {
+    if (at.width > 0) text << what << at.left << " " << at.top << " " << at.width << " " << at.height;
   };
-  const ui::Place &at = def->place, &drawn = def->drawn, &elsewhere = def->elsewhere;
-  const ui::Color& color = def->color;
   text << kKinds[static_cast<int>(def->kind)] << " '" << def->caption << "'" << (def->shown ? " shown" : " hidden");
-  note(at.width > 0, " at", at.left, at.top, at.width, at.height);
-  note(drawn != at && drawn.width > 0, ", drawn", drawn.left, drawn.top, drawn.width, drawn.height);
-  note(elsewhere.width > 0, ", else", elsewhere.left, elsewhere.top, elsewhere.width, elsewhere.height);
-  note(def->wraps, ", wraps");
-  note(def->font.bold, ", bold");
-  note(def->font.italic, ", italic");
-  note(def->font.points > 0, ",", def->font.points, "points");
-  note(color.red + color.green + color.blue > 0, ", colour", color.red, color.green, color.blue);
-  note(def->tab >= 0, ", tab", def->tab);
-  note(def->label >= 0, ", label", controls[static_cast<std::size_t>(std::max(def->label, 0))].name);
-  note(!def->about.empty(), ", about", "'" + def->about + "'");
-  note(def->path, ", path");
-  return text.str();
+  place(" at ", def->place);
+  if (def->drawn != def->place) place(", drawn ", def->drawn);
+  place(", else ", def->elsewhere);
+  text << (def->wraps ? ", wraps" : "") << (def->font.bold ? ", bold" : "") << (def->font.italic ? ", italic" : "");
+  if (def->font.points > 0) text << ", " << def->font.points << " points";
+  if (def->color.red + def->color.green + def->color.blue > 0)
+    text << ", colour " << def->color.red << " " << def->color.green << " " << def->color.blue;
+  if (def->tab >= 0) text << ", tab " << def->tab;
+  if (def->label >= 0) text << ", label " << controls[static_cast<std::size_t>(def->label)].name;
+  return text.str() + (def->about.empty() ? "" : ", about '" + def->about + "'") + (def->path ? ", path" : "");
 }
 
 const std::map<std::string, std::function<std::string(const Arguments&)>> kOperations{

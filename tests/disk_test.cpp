@@ -153,9 +153,9 @@ class Script {
       return error.what();
     }
   }
-  std::string create(Text name, Text content, file::Access access) {
+  std::string create(Text name, Text content) {
     OpenFile file(system_);
-    if (const auto error = system_.create_new(name, access, file.handle())) return said(error);
+    if (const auto error = system_.create_new(name, file::Access::Private, file.handle())) return said(error);
     std::size_t put = 0;
     EXPECT_EQ(system_.write(file.get(), content, put), std::error_code());
     EXPECT_EQ(put, content.size());
@@ -225,8 +225,7 @@ class Script {
   // Files made without the program.
   std::string prepare(Text verb, Text a, Text b) {
     support::MemorySystem* const m = memory_;
-    if (verb == "put") return create(a, b, file::Access::Private);
-    if (verb == "share") return create(a, b, file::Access::Shared);
+    if (verb == "put") return create(a, b);
     if (verb == "grow") return grow(a, b);
     if (verb == "link") return m != nullptr ? (m->link(a, b), "") : made(::symlink(b.c_str(), a.c_str()));
     if (verb == "hardlink") return m != nullptr ? (m->hard_link(a, b), "") : made(::link(b.c_str(), a.c_str()));
@@ -296,8 +295,6 @@ class Script {
     if (verb == "owned") return "by " + (system_.owner_of(a).empty() ? "this user" : system_.owner_of(a));
     if (verb == "enter") return said(system_.change_folder(a));
     if (verb == "where") return said(system_.current_folder(text)) + said(system_.change_drive('C')) + text;
-    if (verb == "remember") return remembered_ = look(a, Follow::Nothing), "";
-    if (verb == "changed") return remembered_.same_content(look(a, Follow::Nothing)) ? "no" : "yes";
     if (verb == "compare") {
       const Status x = look(a, Follow::Nothing), y = look(b, Follow::Links);
       return std::string(x.same_file(y) ? "same file" : "two files") + (x.same_content(y) ? ", same content" : "");
@@ -401,7 +398,6 @@ class Script {
   std::optional<file::Replacement> begun_;
   std::optional<player::Player> program_;
   std::string asked_;
-  Status remembered_;
   bool skips_ = false;  // what this disk or this user cannot do
 };
 
@@ -444,11 +440,8 @@ TEST_P(Disk, DoesAsTabled) {
     }
   }
   EXPECT_GT(cases, 100);
-}
-
-TEST(RealDisk, LimitsTheSizeOfAFileWithoutEndingTheProgram) {
-  file::system();
-  EXPECT_EQ(::signal(SIGXFSZ, SIG_IGN), SIG_IGN);
+  if (in_memory) return;
+  EXPECT_EQ(::signal(SIGXFSZ, SIG_IGN), SIG_IGN) << "a limit on the size of files would end the program";
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// The lines of databases, and the characters of tables.
+// The lines of databases (each ends in CR LF), and the characters of tables.
 #pragma once
 
 #include <string>
@@ -6,17 +6,11 @@
 
 namespace support {
 
-// CR LF after each line.
-inline std::string lines(std::initializer_list<std::string_view> all) {
-  std::string text;
-  for (const auto line : all) text.append(line).append("\r\n");
-  return text;
-}
-
 inline const std::string kTrailer =
-    lines({"0,\"\",0,0,0,0,0,0,0,0", "0,0", "0,\"For KELMAR\",0,0,0,0,0,0,0,0", "0,0", "0,\"\",0,0,0,0,0,0,0,0", "0,0"});
-inline const std::string kComponents = lines({"2,\"H2O\",0,0,0,\"\"", "150,\"Ca+2\",2,0,0,\"\"", "231,\"Cu+2\",2,0,0,\"\"",
-                                              "330,\"H+\",1,0,0,\"\"", "812,\"SOH\",0,0,0,\"\""});
+    "0,\"\",0,0,0,0,0,0,0,0\r\n0,0\r\n0,\"For KELMAR\",0,0,0,0,0,0,0,0\r\n0,0\r\n0,\"\",0,0,0,0,0,0,0,0\r\n0,0\r\n";
+inline const std::string kComponents =
+    "2,\"H2O\",0,0,0,\"\"\r\n150,\"Ca+2\",2,0,0,\"\"\r\n231,\"Cu+2\",2,0,0,\"\"\r\n"
+    "330,\"H+\",1,0,0,\"\"\r\n812,\"SOH\",0,0,0,\"\"\r\n";
 
 // The text that a table writes with \r, \n, \t and \x1a for characters, {trailer} for the lines that end a database, {one}
 // for a record, and {x*100} for a hundred x.
