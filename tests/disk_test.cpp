@@ -144,6 +144,7 @@ class Script {
   static void exchange(std::string& text, Text old, Text fresh) {
     for (std::size_t at = 0; (at = text.find(old, at)) != text.npos; at += fresh.size()) text.replace(at, old.size(), fresh);
   }
+  static unsigned number(Text text, int base = 10) { return static_cast<unsigned>(std::stoul(text, nullptr, base)); }
   static std::string said(std::error_code error) { return error ? error.message() : ""; }
   template <typename Action>
   static std::string told(Action action) {
@@ -212,10 +213,7 @@ class Script {
       if (const char* const known = ::strerrorname_np(error); known != nullptr && name == known) return error;
     return 0;
   }
-  std::string made(ssize_t result) {
-    EXPECT_EQ(result, 0);
-    return "";
-  }
+  static std::string made(int result) { return result == 0 ? "" : "cannot be made"; }
   std::string set_mode(Text name, mode_t mode) {
     if (memory_ == nullptr) return made(::chmod(name.c_str(), mode));
     if (name == ".") return memory_->folder(folder_).writable = (mode & 0200) != 0, "";
@@ -229,7 +227,7 @@ class Script {
     if (verb == "grow") return grow(a, b);
     if (verb == "link") return m != nullptr ? (m->link(a, b), "") : made(::symlink(b.c_str(), a.c_str()));
     if (verb == "hardlink") return m != nullptr ? (m->hard_link(a, b), "") : made(::link(b.c_str(), a.c_str()));
-    if (verb == "chmod") return set_mode(a, static_cast<mode_t>(std::stoi(b, nullptr, 8)));
+    if (verb == "chmod") return set_mode(a, number(b, 8));
     if (verb == "far") return m->add_folder(a, {.device = 2, .writable = b != "closed"}), "";
     if (verb == "without-locks") return m->folder(folder_).locks = false, "";
     if (verb == "files") return files();
@@ -249,22 +247,19 @@ class Script {
 
   // Users, and attributes by which files are theirs.
   std::string prepare_users(Text verb, Text a, Text b) {
-    if (verb == "as") return become(static_cast<uid_t>(std::stoul(a))), "";
+    if (verb == "as") return become(number(a)), "";
     if (verb == "own" && memory_ != nullptr) return memory_->at(a).owner = b, "";
-    std::istringstream words(b);
     if (verb == "own") {  // USER GROUP MODE
       const uid_t user = ::geteuid();
-      uid_t owner = 0;
-      gid_t group = 0;
-      mode_t mode = 0;
-      words >> owner >> group >> std::oct >> mode;
+      const auto [owner, rest] = split(b);
+      const auto [group, mode] = split(rest);
       become(0);
-      made(::chown(a.c_str(), owner, group) + ::chmod(a.c_str(), mode));
-      return become(user), "";
+      const std::string done = made(::chown(a.c_str(), number(owner), number(group)) + ::chmod(a.c_str(), number(mode, 8)));
+      return become(user), done;
     }
     if (verb == "ids") {
       struct stat s {};
-      made(::stat(a.c_str(), &s));
+      ::stat(a.c_str(), &s);
       return std::to_string(s.st_uid) + " " + (s.st_gid == ::getegid() ? "own" : std::to_string(s.st_gid));
     }
     const auto [attribute, text] = split(b);
@@ -331,6 +326,13 @@ class Script {
     return begun_.reset(), result;
   }
 
+  // Plays the line when it is called for the nth time.
+  std::function<void()> at_nth(Text n, Text line) {
+    return [this, left = std::stoi(n), line]() mutable {
+      if (--left == 0) play(line);
+    };
+  }
+
   // What happens beside it.
   std::string arrange(Text verb, Text a, Text b) {
     const auto [first, rest] = split(b);
@@ -353,14 +355,12 @@ class Script {
         if (info.call == call) play(line);
       };
     } else if (verb == "at") {
-      watched_.after = [this, others = watched_.after, call = call_of(a), n = std::stoi(first), line](auto& info) mutable {
+      watched_.after = [others = watched_.after, call = call_of(a), nth = at_nth(first, line)](auto& info) mutable {
         others(info);
-        if (info.call == call && --n == 0) play(line);
+        if (info.call == call) nth();
       };
     } else if (verb == "waiting") {
-      memory_->meanwhile = [this, left = std::stoi(a), line]() mutable {
-        if (--left == 0) play(line);
-      };
+      memory_->meanwhile = at_nth(a, line);
     } else if (verb == "asked") {
       asked_ = line;
     } else if (verb == "before-lock") {

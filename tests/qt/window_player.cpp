@@ -4,8 +4,11 @@
 //   focus NAME | key KEY | keys TEXT | mouse PLACE [Ctrl|Right|Double] | drag I I | wheel NAME | cursor NAME
 //   dictate NAME TEXT | deselect | describe NAME | resize FACTOR
 //
-// KEY as in Ctrl+A; both it and TEXT go to the focus. PLACE is an entry of the list, or "empty", below them. What is
-// dictated comes as from a screen reader, and "describe" tells what that reads, with the tooltip.
+// KEY as in Ctrl+A; both it and TEXT go to the focus. PLACE is an entry of the list, or "empty", below them. A "dialog" is a
+// real one (qt_player.h). "describe" tells what a screen reader reads, with the tooltip, and whether the frame is lit;
+// "dictate", "current" (the entry of the list; -1: none) and "press" come from one, and reach also what a message box shuts
+// off. What is "asked" is played while the next box stands. In "haste" the events are put in line at once, on a disk that
+// answers slowly, until they "settle".
 #include <QAccessible>
 #include <QClipboard>
 #include <QHelpEvent>
@@ -149,6 +152,8 @@ class CheckedPlayer final : public QtPlayer {
     std::cout << "name [" << read->text(QAccessible::Name).toStdString() << "] description ["
               << read->text(QAccessible::Description).toStdString() << "] tooltip [" << QToolTip::text().toStdString()
               << "]";
+    const QPalette& colors = widget->palette();
+    if (colors.color(QPalette::WindowText) == colors.color(QPalette::Active, QPalette::Highlight)) std::cout << " lit";
     for (const auto& [label, relation] : read->relations(QAccessible::Label))
       std::cout << " label [" << label->text(QAccessible::Name).toStdString() << "]";
     std::cout << '\n';

@@ -61,14 +61,6 @@ TEST(Qt, CutsNoTextAndKeepsEveryByte) {
   }
 }
 
-TEST(Qt, ListShowsTheFocusInItsFrame) {
-  QtSeat qt;
-  EXPECT_TRUE(qt.list()->hasFocus());
-  const QColor frame = qt.list()->palette().color(QPalette::WindowText);
-  qt.window.widget(app::txtID)->setFocus();
-  EXPECT_NE(qt.list()->palette().color(QPalette::WindowText), frame);
-}
-
 TEST(Qt, ShortensAPathInItsMiddleAndACaptionAtItsEnd) {
   QtSeat qt;
   const auto picture = [&](int control, const std::string& text) {

@@ -28,13 +28,11 @@ inline std::string plain(std::string_view text) {
       std::size_t end = 0;
       for (int depth = 1; depth > 0;) depth += rest[++end] == '{' ? 1 : rest[end] == '}' ? -1 : 0;
       const std::string_view name = rest.substr(1, end - 1);
-      const std::string once = name.rfind('*') == name.npos ? "" : plain(name.substr(0, name.rfind('*')));
-      if (name == "trailer")
-        result += kTrailer;
-      else if (name == "one")
-        result += "1,\"a\",0,0,0,0,0,0,0,0,0,0\r\n";
-      else
-        for (int n = std::stoi(std::string(name.substr(name.rfind('*') + 1))); n > 0; --n) result += once;
+      const std::size_t star = name.rfind('*');
+      const std::string once = star != name.npos   ? plain(name.substr(0, star))
+                               : name == "trailer" ? kTrailer
+                                                   : "1,\"a\",0,0,0,0,0,0,0,0,0,0\r\n";
+      for (int n = star != name.npos ? std::stoi(std::string(name.substr(star + 1))) : 1; n > 0; --n) result += once;
       i += name.size() + 1;
     } else {
       result += text[i];
