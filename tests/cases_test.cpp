@@ -40,8 +40,7 @@ std::string number_or(const std::optional<double>& value, const char* none) {
 
 // All fields, each in brackets, a quoted one with its quotes; of a long one the length.
 std::string fields(const Arguments& arguments) {
-  MemorySystem system;
-  system.add("x", arguments[0]);
+  MemorySystem system{{"x", arguments[0]}};
   db::FieldReader reader(system, "x");
   std::string all;
   for (db::Field field; reader.next(std::span(&field, 1));) {
@@ -54,8 +53,7 @@ std::string fields(const Arguments& arguments) {
 // What a rewrite makes of a database of that name, with a model of the window if one is given, or its message.
 std::string rewrite(const Arguments& arguments) {
   const auto& [name, content] = std::tie(arguments[0], arguments[1]);
-  MemorySystem system;
-  system.add(name, content);
+  MemorySystem system{{name, content}};
   try {
     const std::string model = arguments.size() > 2 ? arguments[2] : "";
     db::Rewrite rewrite(system, db::database_at(name), "comp.mdb", {.model = model, .critical_f = .5});
@@ -102,8 +100,7 @@ std::string site(const Arguments& arguments) {
 
 // Lookups in a component database: by number (first argument), by name, by name as read.
 std::string lookup(const Arguments& arguments) {
-  MemorySystem system;
-  system.add("c", arguments[1]);
+  MemorySystem system{{"c", arguments[1]}};
   const std::vector<double> numbers{db::parse_number(arguments[0]).value_or(0)};
   const auto by_number = db::component_names(system, "c", numbers);
   std::string result = by_number.names[0].value_or("none") + by_number.failure.value_or("");
@@ -120,9 +117,7 @@ std::string lookup(const Arguments& arguments) {
 
 // What is shown of a species ("x.iso | CONTENT | NAME"), by all its boxes, or the message.
 std::string display(const Arguments& arguments) {
-  MemorySystem system;
-  system.add(arguments[0], arguments[1]);
-  system.add("comp.mdb", support::kComponents);
+  MemorySystem system{{arguments[0], arguments[1]}, {"comp.mdb", support::kComponents}};
   db::Database open = db::database_at(arguments[0]);
   open.mbfields = open.kind == db::Kind::Isotherm;
   const auto shown = edit::show_species(system, open, "comp.mdb", arguments[2]);
@@ -183,8 +178,7 @@ const std::map<std::string, std::function<std::string(const Arguments&)>> kOpera
     {"fields", fields},
     {"choices",
      [](const Arguments& a) {
-       MemorySystem system;
-       system.add("c", a[0]);
+       MemorySystem system{{"c", a[0]}};
        const auto choices = edit::component_choices(system, "c", "", false);
        std::string all;
        for (const std::string& name : choices.names) all += "[" + name + "]";

@@ -315,11 +315,6 @@ class Script {
     if (verb == "copy") return told([&] { return file::copy_over(watched_, a, b, kSpared); });
     if (verb == "read-whole") return told([&] { return std::optional(file::read_whole(watched_, b, std::stoul(a))); });
     if (verb == "open") return program_->form.state().open.path;
-    if (verb == "listed") {
-      std::string all;
-      for (const std::string& species : program_->reactions().entries) all += "[" + species + "]";
-      return all;
-    }
     if (verb == "dialogs-begin-in") return program_->form.state().dialog_folder;
     if (verb != "finish") return call(verb, a, b);
     const std::string result = told([&] { return begun_->commit(a); });

@@ -102,13 +102,7 @@ using Files = std::map<std::string, std::string>;
 class Attempt {
  public:
   explicit Attempt(const Operation& operation) : operation_(operation) {
-    memory.add("dabase.txt", "C");
-    memory.add("sorptemp.dat", "x.mdb");
-    memory.add("comp.mdb", kComponents);
-    memory.add("x.mdb", kDatabase);
-    memory.add_folder("/far", {.device = 2});
-    memory.add("/far/x.mdb", kDatabase);
-    memory.add("/far/new.mdb", "former");
+    memory.folder("/far").device = 2;
     if (operation.leftover) memory.add("dbnamep.mdb", "half");
     program.form.load();
     std::istringstream events(operation.before);
@@ -148,19 +142,18 @@ class Attempt {
     EXPECT_EQ(memory.open_handles(), 0);
     EXPECT_FALSE(program.form.state().suggestrun);
     EXPECT_NE(program.form.state().changedone, "Y");
-    const auto holds = [](const Files& files, const auto& file) {
-      return files.count(file.first) > 0 && files.at(file.first) == file.second;
-    };
     for (const auto& file : memory.all()) {
       // Saving to new begins with a copy.
       const bool copy = file.first.find("new.mdb") != std::string::npos && file.second == kDatabase;
       const bool leftover = may_leave_temporary && file.first.find("dbnamep") != std::string::npos;
-      EXPECT_TRUE(holds(before, file) || holds(whole, file) || copy || leftover) << file.first << " holds " << file.second;
+      const bool known = std::ranges::count(before, file) + std::ranges::count(whole, file) > 0;
+      EXPECT_TRUE(known || copy || leftover) << file.first << " holds " << file.second;
     }
     EXPECT_NE(memory.content("x.mdb"), "(missing)");
   }
 
-  MemorySystem memory;
+  MemorySystem memory{{"dabase.txt", "C"},  {"sorptemp.dat", "x.mdb"}, {"comp.mdb", kComponents},
+                      {"x.mdb", kDatabase}, {"/far/x.mdb", kDatabase}, {"/far/new.mdb", "former"}};
   WatchedSystem watched{memory};
   player::Player program{watched};
   Files before;

@@ -1,8 +1,9 @@
 // The player on real widgets, without a display: see play_script(). Besides the events of every story it plays what only
 // widgets take, and tells where the focus has gone:
 //
-//   focus NAME | key KEY | keys TEXT | mouse PLACE [Ctrl|Right|Double] | drag I I | wheel NAME | cursor NAME
-//   dictate NAME TEXT | deselect | describe NAME | resize FACTOR
+//   focus NAME | key KEY | keys TEXT | paste TEXT | cursor NAME | wheel NAME | resize FACTOR | dialog FORM REPLIES [TEXT]
+//   mouse PLACE [Ctrl|Right|Double] | drag I I | describe NAME | dictate NAME TEXT | current I | press NAME
+//   asked EVENT | haste | settle
 //
 // KEY as in Ctrl+A; both it and TEXT go to the focus. PLACE is an entry of the list, or "empty", below them. A "dialog" is a
 // real one (qt_player.h). "describe" tells what a screen reader reads, with the tooltip, and whether the frame is lit;

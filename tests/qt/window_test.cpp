@@ -17,8 +17,7 @@ const bool kWithoutDisplay = qputenv("QT_QPA_PLATFORM", "offscreen");
 // Whatever box comes up is closed, and then the window.
 TEST(Run, EndsWithTheFormAndItsStatus) {
   for (const bool starts : {true, false}) {
-    support::MemorySystem system;
-    if (starts) system.add("dabase.txt", "C");
+    support::MemorySystem system{{starts ? "dabase.txt" : "other.txt", "C"}};
     char program[] = "kelmar-dbedit";
     const int status = ui::run(program, [&](ui::Dialogs& dialogs) {
       if (!starts) QTimer::singleShot(0, [] { QApplication::activeModalWidget()->close(); });
@@ -37,11 +36,12 @@ struct Application {
 
 // A program in real widgets, with an isotherm database.
 struct QtSeat : Application, support::MemorySystem, player::QtPlayer {
-  QtSeat() : QtPlayer(static_cast<MemorySystem&>(*this)) {
-    add("dabase.txt", "C");
-    add("comp.mdb", support::kComponents);
-    add("sorptemp.dat", "x.iso");
-    add("x.iso", "\"Freundlich\"\r\n" + support::kTrailer);
+  QtSeat()
+      : MemorySystem{{"dabase.txt", "C"},
+                     {"comp.mdb", support::kComponents},
+                     {"sorptemp.dat", "x.iso"},
+                     {"x.iso", "\"Freundlich\"\r\n" + support::kTrailer}},
+        QtPlayer(static_cast<MemorySystem&>(*this)) {
     play("load");
     settle();
   }

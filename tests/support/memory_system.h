@@ -5,11 +5,13 @@
 #include <chrono>
 #include <cstdint>
 #include <functional>
+#include <initializer_list>
 #include <map>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <system_error>
+#include <utility>
 
 #include "file/system.h"
 
@@ -32,7 +34,10 @@ class MemorySystem : public file::System {
     bool locks = true;
   };
 
-  MemorySystem() { add_folder("/kelmar"); }
+  MemorySystem(std::initializer_list<std::pair<std::string, std::string>> files = {}) {
+    add_folder("/kelmar");
+    for (const auto& [path, content] : files) add(path, content);
+  }
 
   // Set-up and inspection; paths as the program gives them, relative ones from /kelmar.
   void add_folder(const std::string& path, const Folder& folder = {1, true, true}) { folders_[path] = folder; }
