@@ -201,8 +201,7 @@ class Script {
   // An open file, made if there was none.
   file::Handle held(Text name) {
     OpenFile& file = held_.try_emplace(name, system_).first->second;
-    const bool fresh = file.get() < 0;
-    EXPECT_FALSE(fresh && system_.create_new(name, file::Access::Private, file.handle()));
+    EXPECT_FALSE(file.get() < 0 && system_.create_new(name, file::Access::Private, file.handle()));
     return file.get();
   }
   static Call call_of(Text name) {
@@ -220,7 +219,17 @@ class Script {
     return memory_->at(name).mode = mode, grow(name, "");
   }
 
-  // Files made without the program.
+  static std::string attributes(Text path) {
+    std::string all;
+    for (const std::string name : {"system.posix_acl_access", "user.empty", "user.note"}) {
+      char value[100];
+      const ssize_t size = ::getxattr(path.c_str(), name.c_str(), value, sizeof value);
+      if (size >= 0) all += "[" + name + "=" + std::string(value, static_cast<std::size_t>(size)) + "]";
+    }
+    return all;
+  }
+
+  // Files made without the program, and whose they are.
   std::string prepare(Text verb, Text a, Text b) {
     support::MemorySystem* const m = memory_;
     if (verb == "put") return create(a, b);
@@ -236,17 +245,6 @@ class Script {
       octal << std::oct << (m != nullptr ? m->at(a).mode : static_cast<unsigned>(std::filesystem::status(a).permissions()));
       return octal.str();
     }
-    const bool folder = verb == "folder";
-    if (!folder && verb != "pipe") return prepare_users(verb, a, b);
-    if (m == nullptr) return made(folder ? ::mkdir(a.c_str(), 0700) : ::mkfifo(a.c_str(), 0600));
-    m->add(a, "");
-    m->at(a).type = folder ? Type::Folder : Type::Other;
-    if (folder) m->add_folder(folder_ + "/" + a);
-    return "";
-  }
-
-  // Users, and attributes by which files are theirs.
-  std::string prepare_users(Text verb, Text a, Text b) {
     if (verb == "as") return become(number(a)), "";
     if (verb == "own" && memory_ != nullptr) return memory_->at(a).owner = b, "";
     if (verb == "own") {  // USER GROUP MODE
@@ -265,14 +263,14 @@ class Script {
     const auto [attribute, text] = split(b);
     if (verb == "needs-attributes") return skips_ = ::setxattr(".", "user.empty", "", 0, 0) != 0, "";
     if (verb == "note") return made(::setxattr(a.c_str(), attribute.c_str(), text.data(), text.size(), 0));
-    if (verb != "attributes") return "no such operation";
-    std::string all;
-    for (const std::string name : {"system.posix_acl_access", "user.empty", "user.note"}) {
-      char value[100];
-      const ssize_t size = ::getxattr(a.c_str(), name.c_str(), value, sizeof value);
-      if (size >= 0) all += "[" + name + "=" + std::string(value, static_cast<std::size_t>(size)) + "]";
-    }
-    return all;
+    if (verb == "attributes") return attributes(a);
+    const bool folder = verb == "folder";
+    if (!folder && verb != "pipe") return "no such operation";
+    if (m == nullptr) return made(folder ? ::mkdir(a.c_str(), 0700) : ::mkfifo(a.c_str(), 0600));
+    m->add(a, "");
+    m->at(a).type = folder ? Type::Folder : Type::Other;
+    if (folder) m->add_folder(folder_ + "/" + a);
+    return "";
   }
 
   // One call of the system.

@@ -78,10 +78,10 @@ struct Operation {
   bool leftover = false;  // of a save before
 };
 
-const std::string kLonger = "type txtName " + std::string(3000, 'n');
 const Operation kOperations[] = {
     {"change", End::Saved, "select 1\ntype txtlogk 7\nanswer Yes", app::cmdSavedb},
-    {"change that makes the file longer", End::Saved, "select 1\n" + kLonger + "\nanswer Yes", app::cmdSavedb},
+    {"change that makes the file longer", End::Saved, "select 1\ntype txtName " + std::string(3000, 'n') + "\nanswer Yes",
+     app::cmdSavedb},
     {"change beside a leftover", End::Saved, "select 1\ntype txtlogk 7\nanswer Yes", app::cmdSavedb, true},
     {"change on another file system", End::Saved,
      "choose /far/x.mdb\nclick mnuFileOpen\nselect 1\ntype txtlogk 7\nanswer Yes", app::cmdSavedb},
