@@ -25,7 +25,6 @@
 #include <iterator>
 #include <map>
 #include <optional>
-#include <sstream>
 #include <string>
 #include <system_error>
 #include <utility>
@@ -85,28 +84,25 @@ const file::Spared kSpared{"comp.mdb", "the component database"};
 void become(uid_t user) { EXPECT_TRUE(::geteuid() == user || ::seteuid(0) + ::seteuid(user) == 0) << user; }
 
 // An empty folder of the disk, entered as a user to whom permissions mean something, and whose only group is his own.
-class Folder {
- public:
-  Folder() : user_(::geteuid()) {
+struct Folder {
+  Folder() {
     constexpr uid_t kNobody = 65534;
     constexpr gid_t kGroup = 12346;
     ::umask(022);
     std::string pattern = std::filesystem::temp_directory_path() / "kelmar-XXXXXX";
     path = ::mkdtemp(pattern.data());
     std::filesystem::current_path(path);
-    if (user_ != 0) return;
+    if (user != 0) return;
     EXPECT_EQ(::chown(path.c_str(), kNobody, static_cast<gid_t>(-1)) + ::setgroups(1, &kGroup), 0);
     become(kNobody);
   }
   ~Folder() {
-    become(user_);
+    become(user);
     std::filesystem::current_path("/");
     std::filesystem::remove_all(path);
   }
   std::string path;
-
- private:
-  uid_t user_;
+  const uid_t user = ::geteuid();
 };
 
 // A text that ends at the first blank, and what follows that.
@@ -241,9 +237,8 @@ class Script {
     if (verb == "without-locks") return m->folder(folder_).locks = false, "";
     if (verb == "files") return files();
     if (verb == "mode") {
-      std::ostringstream octal;
-      octal << std::oct << (m != nullptr ? m->at(a).mode : static_cast<unsigned>(std::filesystem::status(a).permissions()));
-      return octal.str();
+      const unsigned mode = m != nullptr ? m->at(a).mode : static_cast<unsigned>(std::filesystem::status(a).permissions());
+      return std::to_string(mode / 64) + std::to_string(mode / 8 % 8) + std::to_string(mode % 8);
     }
     if (verb == "as") return become(number(a)), "";
     if (verb == "own" && memory_ != nullptr) return memory_->at(a).owner = b, "";

@@ -140,8 +140,8 @@ class CheckedPlayer final : public QtPlayer {
     if (open && form.window().ended) std::cout << "the window stays open\n";
     for (int i = 0; open && i < app::kControls; ++i) {
       const auto* caption = qobject_cast<ui::qt::Caption*>(window.widget(i));
-      const bool cut = caption != nullptr && caption->is_shortened() && !app::window_def().controls[i].path;
-      if (cut) std::cout << name_of(caption) << " is cut\n";
+      if (caption != nullptr && caption->is_shortened() && !app::window_def().controls[i].path)
+        std::cout << name_of(caption) << " is cut\n";
     }
   }
 

@@ -56,8 +56,7 @@ TEST(Qt, CutsNoTextAndKeepsEveryByte) {
   EXPECT_EQ(qt.text(app::txtName).size(), 100000u);
   for (int byte = 1; byte < 256; ++byte) {
     const std::string text(1, static_cast<char>(byte));
-    const bool line_end = byte == '\r' || byte == '\n';
-    EXPECT_EQ(ui::qt::to_bytes(ui::qt::from_bytes(text)), line_end ? "" : text) << byte;
+    EXPECT_EQ(ui::qt::to_bytes(ui::qt::from_bytes(text)), byte == '\r' || byte == '\n' ? "" : text) << byte;
   }
 }
 
