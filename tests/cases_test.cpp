@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cmath>
 #include <cstddef>
 #include <filesystem>
 #include <fstream>
@@ -43,8 +42,7 @@ std::string number_or(const std::optional<double>& value, const char* none) {
 
 // All fields, each in brackets, a quoted one with its quotes; of a long one the length.
 std::string fields(const Arguments& arguments) {
-  MemorySystem system;
-  system.add("x", arguments[0]);
+  MemorySystem system{{"x", arguments[0]}};
   db::FieldReader reader(system, "x", "x");
   std::string all;
   for (db::Field field; reader.next(std::span(&field, 1));) {
@@ -57,8 +55,7 @@ std::string fields(const Arguments& arguments) {
 // What a rewrite makes of a database of that name, with a model of the window if one is given, or its message.
 std::string rewrite(const Arguments& arguments) {
   const auto& [name, content] = std::tie(arguments[0], arguments[1]);
-  MemorySystem system;
-  system.add(name, content);
+  MemorySystem system{{name, content}};
   try {
     const std::string model = arguments.size() > 2 ? arguments[2] : "";
     db::Rewrite rewrite(system, opened(name), model, .5);
@@ -91,12 +88,11 @@ std::string free_id(const Arguments& arguments) {
   std::istringstream components(arguments[0]), used(arguments[1]);
   edit::IdBase base;
   components >> base.first >> base.second;
-  MemorySystem system;
   std::string species;
   for (std::string range; used >> range;)
     for (int i = 0, count = range.find('*') == range.npos ? 1 : std::stoi(range.substr(range.find('*') + 1)); i < count; ++i)
       species += db::format_number(std::stod(range) + i) + ",\"a\",0,0,0,0,0,0,0,0,0,0\r\n";
-  system.add("x.mdb", species);
+  MemorySystem system{{"x.mdb", species}};
   return db::format_number(edit::free_id(system, opened("x.mdb"), base));
 }
 
@@ -107,8 +103,7 @@ std::string site(const Arguments& arguments) {
 
 // Lookups in a component database: by number (first argument), by name, by name as read.
 std::string lookup(const Arguments& arguments) {
-  MemorySystem system;
-  system.add("c", arguments[1]);
+  MemorySystem system{{"c", arguments[1]}};
   const std::vector<double> numbers{db::parse_number(arguments[0]).value_or(0)};
   const auto by_number = db::component_names(system, "c", numbers);
   std::string result = by_number.names[0].value_or("none") + by_number.failure.value_or("");
@@ -125,9 +120,7 @@ std::string lookup(const Arguments& arguments) {
 
 // What is shown of a species ("x.iso | CONTENT | NAME"), by all its boxes, or the message.
 std::string display(const Arguments& arguments) {
-  MemorySystem system;
-  system.add(arguments[0], arguments[1]);
-  system.add("comp.mdb", support::kComponents);
+  MemorySystem system{{arguments[0], arguments[1]}, {"comp.mdb", support::kComponents}};
   db::Database open = opened(arguments[0]);
   open.mbfields = open.kind == db::Kind::Isotherm;
   const auto shown = edit::show_species(system, open, arguments[2]);
@@ -169,33 +162,27 @@ std::string control(const Arguments& arguments) {
   const auto def = std::ranges::find(controls, arguments[0], &ui::ControlDef::name);
   if (def == controls.end()) return "none";
   std::ostringstream text;
-  const auto note = [&text](bool holds, const char* what, const auto&... values) {
-    if (holds) text << what, ((text << " " << values), ...);
+  const auto place = [&](const char* what, const ui::Place& at) {
+    if (at.width > 0) text << what << at.left << " " << at.top << " " << at.width << " " << at.height;
   };
-  const ui::Place &at = def->place, &drawn = def->drawn, &elsewhere = def->elsewhere;
-  const ui::Color& color = def->color;
   text << kKinds[static_cast<int>(def->kind)] << " '" << def->caption << "'" << (def->shown ? " shown" : " hidden");
-  note(at.width > 0, " at", at.left, at.top, at.width, at.height);
-  note(drawn != at && drawn.width > 0, ", drawn", drawn.left, drawn.top, drawn.width, drawn.height);
-  note(elsewhere.width > 0, ", else", elsewhere.left, elsewhere.top, elsewhere.width, elsewhere.height);
-  note(def->wraps, ", wraps");
-  note(def->font.bold, ", bold");
-  note(def->font.italic, ", italic");
-  note(def->font.points > 0, ",", def->font.points, "points");
-  note(color.red + color.green + color.blue > 0, ", colour", color.red, color.green, color.blue);
-  note(def->tab >= 0, ", tab", def->tab);
-  note(def->label >= 0, ", label", controls[static_cast<std::size_t>(std::max(def->label, 0))].name);
-  note(!def->about.empty(), ", about", "'" + def->about + "'");
-  note(def->path, ", path");
-  return text.str();
+  place(" at ", def->place);
+  if (def->drawn != def->place) place(", drawn ", def->drawn);
+  place(", else ", def->elsewhere);
+  text << (def->wraps ? ", wraps" : "") << (def->font.bold ? ", bold" : "") << (def->font.italic ? ", italic" : "");
+  if (def->font.points > 0) text << ", " << def->font.points << " points";
+  if (def->color.red + def->color.green + def->color.blue > 0)
+    text << ", colour " << def->color.red << " " << def->color.green << " " << def->color.blue;
+  if (def->tab >= 0) text << ", tab " << def->tab;
+  if (def->label >= 0) text << ", label " << controls[static_cast<std::size_t>(def->label)].name;
+  return text.str() + (def->about.empty() ? "" : ", about '" + def->about + "'") + (def->path ? ", path" : "");
 }
 
 const std::map<std::string, std::function<std::string(const Arguments&)>> kOperations{
     {"fields", fields},
     {"choices",
      [](const Arguments& a) {
-       MemorySystem system;
-       system.add("c", a[0]);
+       MemorySystem system{{"c", a[0]}};
        const auto choices = edit::component_choices(system, {.path = "", .compdb = "c"});
        std::string all;
        for (const std::string& name : choices.names) all += "[" + name + "]";

@@ -5,7 +5,6 @@
 
 #include <cstddef>
 #include <functional>
-#include <iostream>
 #include <map>
 #include <optional>
 #include <string>
@@ -146,24 +145,18 @@ Found replace(const std::string& target, const std::string& fresh, std::optional
 
 TEST(PowerCut, LeavesAWholeDatabaseAndAfterASuccessTheNewOne) {
   int states = 0;
-  for (const std::string& fresh : {kNew, kLonger}) {
-    for (const char* target : {"/kelmar/x.mdb", "/other/x.mdb", "/far/x.mdb"}) {
+  for (const char* target : {"/kelmar/x.mdb", "/other/x.mdb", "/far/x.mdb"}) {
+    for (const std::string& fresh : {kNew, kLonger}) {
       const Found found = replace(target, fresh, std::nullopt);
       EXPECT_EQ(found.mixed, 0) << target;
       EXPECT_EQ(found.old_after_success, 0) << target;
       states += found.states;
     }
-  }
-  std::cout << states << " states examined\n";
-  EXPECT_GT(states, 300);
-}
-
-// The test itself finds what a replacement without its flushes would lose.
-TEST(PowerCut, IsFeltWithoutEitherFlush) {
-  for (const char* target : {"/kelmar/x.mdb", "/other/x.mdb", "/far/x.mdb"}) {
+    // The test itself finds what a replacement without its flushes would lose.
     EXPECT_GT(replace(target, kNew, Call::Flush).mixed, 0) << target;
     EXPECT_GT(replace(target, kNew, Call::FlushFolder).old_after_success, 0) << target;
   }
+  EXPECT_GT(states, 1000);
 }
 
 }  // namespace

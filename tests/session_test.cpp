@@ -5,6 +5,7 @@
 
 #include <random>
 #include <string>
+#include <utility>
 
 #include "support/text.h"
 
@@ -49,23 +50,21 @@ class Databases {
 };
 
 TEST(Session, LosesNoRecord) {
-  const struct {
-    const char *name, *leading;
-  } kinds[] = {{"x.mdb", ""},
-               {"x.cdb", ""},
-               {"x.iso", "\"Freundlich\"\r\n"},
-               {"x.nic", "\"NICA-Donnan\"\r\n"},
-               {"x.bli", "\"text\"\r\n\"label\",.5\r\n"}};
+  const std::pair<const char*, const char*> kinds[] = {{"x.mdb", ""},
+                                                       {"x.cdb", ""},
+                                                       {"x.iso", "\"Freundlich\"\r\n"},
+                                                       {"x.nic", "\"NICA-Donnan\"\r\n"},
+                                                       {"x.bli", "\"text\"\r\n\"label\",.5\r\n"}};
   for (unsigned seed = 0; seed < 3000; ++seed) {
     Databases databases(seed);
-    const auto& kind = kinds[seed % 5];
-    const std::string database = databases.database(kind.leading);
-    Session session(kind.name, database, support::kComponents);
+    const auto& [name, leading] = kinds[seed % 5];
+    const std::string database = databases.database(leading);
+    Session session(name, database, support::kComponents);
     std::string events;
     for (int i = 0; i < 25; ++i) {
       const auto byte = static_cast<unsigned char>(databases.next(256));
       events += " " + std::to_string(byte);
-      ASSERT_EQ(session.play(byte), "") << "seed " << seed << ", " << kind.name << ", events" << events << "\n" << database;
+      ASSERT_EQ(session.play(byte), "") << "seed " << seed << ", " << name << ", events" << events << "\n" << database;
     }
   }
 }

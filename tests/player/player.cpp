@@ -111,32 +111,24 @@ void Player::do_pick(const Event& event) {
 
 std::string Player::state() {
   std::string block = "state\n";
-  const auto text = [&block](const std::string& name, std::string_view value) {
-    block.append(name).append(" [").append(value).append("]");
-  };
-  const auto flag = [&block](const char* name, bool value) { block.append(name).append(value ? " true\n" : " false\n"); };
-  const auto controls = app::window_def().controls;
-  for (std::size_t i = 0; i < controls.size(); ++i) {
-    const ui::ControlDef& def = controls[i];
-    const ui::Control& control = form.window()[static_cast<int>(i)];
+  const auto text = [](std::string_view value) { return " [" + std::string(value) + "]"; };
+  const auto flag = [](bool value) { return value ? " true" : " false"; };
+  for (int i = 0; i < app::kControls; ++i) {
+    const ui::ControlDef& def = definition(i);
+    const ui::Control& control = form.window()[i];
     if (def.kind == ui::Kind::Line || def.kind == ui::Kind::MenuItem) continue;
     const bool list = def.kind == ui::Kind::ListBox;
-    text(def.name + (control.shown ? " shown" : " hidden"), list ? control.selected_text() : std::string_view(control.text));
+    block += def.name + (control.shown ? " shown" : " hidden") + text(list ? control.selected_text() : control.text);
     if (list || def.kind == ui::Kind::ComboBox) block += " " + std::to_string(control.entries.size());
     block += "\n";
-    for (const std::string& entry : control.entries) block += "  [" + entry + "]\n";
+    for (const std::string& entry : control.entries) block += " " + text(entry) + "\n";
   }
   const app::frmMaindb::State& state = form.state();
-  text("compdb", state.open.compdb);
-  text("\ndbname", state.open.path);
-  flag("\nblifile", state.open.blifile());
-  flag("cdbfile", state.open.cdbfile());
-  text("isomodel", state.open.isomodel);
-  text("\nisoselect", state.open.isoselect);
-  flag("\nmbfields", state.open.mbfields);
-  text("changedone", state.changedone);
-  flag("\nsuggestrun", state.suggestrun);
-  return block + "compslot " + std::to_string(state.compslot) + "\nend\n";
+  const db::Database& open = state.open;
+  return block + "compdb" + text(open.compdb) + "\ndbname" + text(open.path) + "\nblifile" + flag(open.blifile()) +
+         "\ncdbfile" + flag(open.cdbfile()) + "\nisomodel" + text(open.isomodel) + "\nisoselect" + text(open.isoselect) +
+         "\nmbfields" + flag(open.mbfields) + "\nchangedone" + text(state.changedone) + "\nsuggestrun" +
+         flag(state.suggestrun) + "\ncompslot " + std::to_string(state.compslot) + "\nend\n";
 }
 
 int play_script(Player& player, bool echo) {

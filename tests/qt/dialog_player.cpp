@@ -18,9 +18,10 @@ void describe(const QWidget* dialog) {
   if (const auto* box = qobject_cast<const QMessageBox*>(dialog))
     std::cout << "[" << box->windowTitle().toStdString() << "] [" << ui::qt::to_bytes(box->text())
               << (box->textFormat() == Qt::PlainText ? "] plain" : "] formatted")
-              << (box->icon() == QMessageBox::Critical ? " critical" : "")
-              << (box->icon() == QMessageBox::Question ? " question" : "") << " buttons " << box->standardButtons().toInt()
-              << '\n';
+              << (box->icon() == QMessageBox::Critical   ? " critical"
+                  : box->icon() == QMessageBox::Question ? " question"
+                                                         : "")
+              << " buttons " << box->standardButtons().toInt() << '\n';
   if (const auto* file = qobject_cast<const QFileDialog*>(dialog))
     std::cout << file->nameFilters().join(" | ").toStdString() << '\n';
   if (dialog->width() > screen.width() || dialog->height() > screen.height()) std::cout << "too large for the screen\n";

@@ -53,23 +53,15 @@ std::string QtPlayer::differences() {
     QWidget* widget = window.widget(i);
     if (widget == nullptr) continue;
     const ui::Control& value = form.window()[i];
-    std::string text = value.text;
-    std::vector<std::string> entries = value.entries;
-    int selected = value.selected;
-    if (auto* combo = qobject_cast<QComboBox*>(widget)) {
-      entries.clear();
-      for (int j = 0; j < combo->count(); ++j) entries.push_back(ui::qt::to_bytes(combo->itemText(j)));
-    }
-    if (widget == list()) {
-      entries.clear();
-      for (int j = 0; j < list()->model()->rowCount(); ++j)
-        entries.push_back(ui::qt::to_bytes(list()->model()->index(j, 0).data().toString()));
-      selected = list()->selected();
-    }
-    if (auto* line = edit(i)) text = ui::qt::to_bytes(line->text());
-    if (auto* button = qobject_cast<QPushButton*>(widget)) text = ui::qt::to_bytes(button->text());
-    if (auto* label = qobject_cast<QLabel*>(widget)) text = ui::qt::to_bytes(label->text());
-    if (widget->isHidden() == value.shown || text != value.text || entries != value.entries || selected != value.selected)
+    const auto* combo = qobject_cast<QComboBox*>(widget);
+    const QAbstractItemModel* model = combo != nullptr ? combo->model() : widget == list() ? list()->model() : nullptr;
+    std::vector<std::string> entries;
+    for (int j = 0; model != nullptr && j < model->rowCount(); ++j)
+      entries.push_back(ui::qt::to_bytes(model->index(j, 0).data().toString()));
+    const int selected = widget == list() ? list()->selected() : value.selected;
+    const QVariant text = combo != nullptr ? combo->currentText() : widget->property("text");
+    if (widget->isHidden() == value.shown || entries != value.entries || selected != value.selected ||
+        (text.isValid() && ui::qt::to_bytes(text.toString()) != value.text))
       all += " " + app::window_def().controls[static_cast<std::size_t>(i)].name;
   }
   return all;

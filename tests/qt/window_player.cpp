@@ -1,11 +1,15 @@
 // The player on real widgets, without a display: see play_script(). Besides the events of every story it plays what only
 // widgets take, and tells where the focus has gone:
 //
-//   focus NAME | key KEY | keys TEXT | mouse PLACE [Ctrl|Right|Double] | drag I I | wheel NAME | cursor NAME
-//   dictate NAME TEXT | deselect | describe NAME | resize FACTOR
+//   focus NAME | key KEY | keys TEXT | paste TEXT | cursor NAME | wheel NAME | resize FACTOR | dialog FORM REPLIES [TEXT]
+//   mouse PLACE [Ctrl|Right|Double] | drag I I | describe NAME | dictate NAME TEXT | current I | press NAME
+//   asked EVENT | haste | settle
 //
-// KEY as in Ctrl+A; both it and TEXT go to the focus. PLACE is an entry of the list, or "empty", below them. What is
-// dictated comes as from a screen reader, and "describe" tells what that reads, with the tooltip.
+// KEY as in Ctrl+A; both it and TEXT go to the focus. PLACE is an entry of the list, or "empty", below them. A "dialog" is a
+// real one (qt_player.h). "describe" tells what a screen reader reads, with the tooltip, and whether the frame is lit;
+// "dictate", "current" (the entry of the list; -1: none) and "press" come from one, and reach also what a message box shuts
+// off. What is "asked" is played while the next box stands. In "haste" the events are put in line at once, on a disk that
+// answers slowly, until they "settle".
 #include <QAccessible>
 #include <QClipboard>
 #include <QHelpEvent>
@@ -136,8 +140,8 @@ class CheckedPlayer final : public QtPlayer {
     if (open && form.window().ended) std::cout << "the window stays open\n";
     for (int i = 0; open && i < app::kControls; ++i) {
       const auto* caption = qobject_cast<ui::qt::Caption*>(window.widget(i));
-      const bool cut = caption != nullptr && caption->is_shortened() && !app::window_def().controls[static_cast<std::size_t>(i)].path;
-      if (cut) std::cout << name_of(caption) << " is cut\n";
+      if (caption != nullptr && caption->is_shortened() && !form.definition().controls[static_cast<std::size_t>(i)].path)
+        std::cout << name_of(caption) << " is cut\n";
     }
   }
 
@@ -149,6 +153,8 @@ class CheckedPlayer final : public QtPlayer {
     std::cout << "name [" << read->text(QAccessible::Name).toStdString() << "] description ["
               << read->text(QAccessible::Description).toStdString() << "] tooltip [" << QToolTip::text().toStdString()
               << "]";
+    const QPalette& colors = widget->palette();
+    if (colors.color(QPalette::WindowText) == colors.color(QPalette::Active, QPalette::Highlight)) std::cout << " lit";
     for (const auto& [label, relation] : read->relations(QAccessible::Label))
       std::cout << " label [" << label->text(QAccessible::Name).toStdString() << "]";
     std::cout << '\n';

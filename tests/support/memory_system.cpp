@@ -27,6 +27,7 @@ void MemorySystem::add(const std::string& path, std::string content) {
   file->inode = next_inode_++;
   touch(*file);
   files_[absolute(path)] = file;
+  folders_.try_emplace(absolute(path).substr(0, absolute(path).rfind('/')));
 }
 
 std::string MemorySystem::content(const std::string& path) const {
@@ -60,18 +61,13 @@ const MemorySystem::Folder* MemorySystem::folder_of(const std::string& path) con
   return found == folders_.end() ? nullptr : &found->second;
 }
 
-bool MemorySystem::may_change_names(const std::string& path) const {
-  const Folder* const folder = folder_of(path);
-  return folder == nullptr || folder->writable;
-}
-
 file::Status MemorySystem::status_of(const std::string& path, const File& file) const {
   file::Status status;
   status.type = file.type;
   status.writable = (file.mode & 0200) != 0;
-  status.replaceable = may_change_names(path);
+  status.replaceable = folder_of(path)->writable;
   status.size = file.content.size();
-  status.identity = {folder_of(path) == nullptr ? 1 : folder_of(path)->device, file.inode};
+  status.identity = {folder_of(path)->device, file.inode};
   status.changed = file.changed;
   for (const auto& [name, other] : files_) status.links += other->inode == file.inode;
   return status;
@@ -83,7 +79,7 @@ std::error_code MemorySystem::open(const std::string& path, Handle& handle) {
   if (file->type == Type::Folder) return failed(std::errc::is_a_directory);
   if (file->type == Type::Link) return failed(std::errc::too_many_symbolic_link_levels);
   if (file->type != Type::Plain) return failed(std::errc::invalid_argument);
-  handles_[handle = next_handle_++].file = file;
+  handles_[handle = next_handle_++] = file;
   return {};
 }
 
@@ -105,24 +101,23 @@ std::error_code MemorySystem::exclude_others(const std::string& path, Handle& ha
   Handle opened = -1;
   if (const auto error = open(at, opened)) return error;
   const bool locks = folder_of(at)->locks;
-  File& file = *handles_.at(opened).file;
-  if (!locks || file.locked) {
+  File& file = *handles_.at(opened);
+  if (!locks || file.locked_by >= 0) {
     close(opened);
     return failed(locks ? std::errc::operation_would_block : std::errc::not_supported);
   }
-  file.locked = handles_.at(opened).holds_lock = true;
-  handle = opened;
+  file.locked_by = handle = opened;
   return {};
 }
 
 std::error_code MemorySystem::read(Handle handle, std::uint64_t offset, char* bytes, std::size_t size, std::size_t& got) {
-  const std::string& content = handles_.at(handle).file->content;
+  const std::string& content = handles_.at(handle)->content;
   got = content.copy(bytes, size, std::min(static_cast<std::size_t>(offset), content.size()));
   return {};
 }
 
 std::error_code MemorySystem::write(Handle handle, std::string_view bytes, std::size_t& put) {
-  File& file = *handles_.at(handle).file;
+  File& file = *handles_.at(handle);
   file.content += bytes;
   touch(file);
   put = bytes.size();
@@ -132,13 +127,13 @@ std::error_code MemorySystem::write(Handle handle, std::string_view bytes, std::
 std::error_code MemorySystem::take_over(Handle handle, const std::string& path) {
   const auto like = find(followed(path));
   if (like == nullptr) return failed(std::errc::no_such_file_or_directory);
-  handles_.at(handle).file->mode = like->mode;
-  touch(*handles_.at(handle).file);
+  handles_.at(handle)->mode = like->mode;
+  touch(*handles_.at(handle));
   return {};
 }
 
 std::error_code MemorySystem::close(Handle handle) {
-  if (handles_.at(handle).holds_lock) handles_.at(handle).file->locked = false;
+  if (File& file = *handles_.at(handle); file.locked_by == handle) file.locked_by = -1;
   handles_.erase(handle);
   return {};
 }
@@ -152,7 +147,7 @@ std::error_code MemorySystem::status(const std::string& path, file::Follow follo
 }
 
 std::error_code MemorySystem::status(Handle handle, file::Status& status) {
-  const auto& file = handles_.at(handle).file;
+  const auto& file = handles_.at(handle);
   status = {};
   for (const auto& [path, other] : files_)
     if (other == file) status = status_of(path, *file);
@@ -169,7 +164,7 @@ std::error_code MemorySystem::rename(const std::string& from, const std::string&
   const Folder *left = folder_of(source), *entered = folder_of(target);
   if (files_.count(source) == 0 || entered == nullptr) return failed(std::errc::no_such_file_or_directory);
   if (left->device != entered->device) return failed(std::errc::cross_device_link);
-  if (!left->writable || !may_change_names(target)) return failed(std::errc::permission_denied);
+  if (!left->writable || !entered->writable) return failed(std::errc::permission_denied);
   if (files_.count(target) > 0 && files_[target] == files_[source]) return {};
   touch(*files_[source]);
   files_[target] = files_[source];
@@ -180,7 +175,7 @@ std::error_code MemorySystem::rename(const std::string& from, const std::string&
 std::error_code MemorySystem::remove(const std::string& path) {
   const std::string at = absolute(path);
   if (find(at) == nullptr) return failed(std::errc::no_such_file_or_directory);
-  if (!may_change_names(at)) return failed(std::errc::permission_denied);
+  if (!folder_of(at)->writable) return failed(std::errc::permission_denied);
   touch(*find(at));
   files_.erase(at);
   return {};

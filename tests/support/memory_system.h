@@ -5,11 +5,13 @@
 #include <chrono>
 #include <cstdint>
 #include <functional>
+#include <initializer_list>
 #include <map>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <system_error>
+#include <utility>
 
 #include "file/system.h"
 
@@ -22,7 +24,7 @@ class MemorySystem : public file::System {
     std::string content;  // of a link: where it points
     std::uint32_t mode = 0644;
     std::string owner;  // another user
-    bool locked = false;
+    file::Handle locked_by = -1;
     std::uint64_t inode = 0;
     std::chrono::nanoseconds changed{};
   };
@@ -32,7 +34,10 @@ class MemorySystem : public file::System {
     bool locks = true;
   };
 
-  MemorySystem() { add_folder("/kelmar"); }
+  MemorySystem(std::initializer_list<std::pair<std::string, std::string>> files = {}) {
+    add_folder("/kelmar");
+    for (const auto& [path, content] : files) add(path, content);
+  }
 
   // Set-up and inspection; paths as the program gives them, relative ones from /kelmar.
   void add_folder(const std::string& path, const Folder& folder = {1, true, true}) { folders_[path] = folder; }
@@ -45,7 +50,6 @@ class MemorySystem : public file::System {
   File& at(const std::string& path) { return *files_.at(absolute(path)); }
   Folder& folder(const std::string& path) { return folders_.at(path); }
   void grow(const std::string& path, std::string_view content) { at(path).content += content, touch(at(path)); }
-  bool has(const std::string& path) const { return files_.count(absolute(path)) > 0; }
   std::string content(const std::string& path) const;
   // Every name with its content.
   std::map<std::string, std::string> all() const;
@@ -76,22 +80,16 @@ class MemorySystem : public file::System {
   void pause(std::chrono::milliseconds) override { meanwhile(); }
 
  private:
-  struct Open {
-    std::shared_ptr<File> file;
-    bool holds_lock = false;
-  };
-
   std::shared_ptr<File> find(const std::string& absolute_path) const;  // null: there is none
   std::string followed(const std::string& path) const;                 // absolute, without links
   const Folder* folder_of(const std::string& absolute_path) const;
   file::Status status_of(const std::string& absolute_path, const File& file) const;
   std::error_code open(const std::string& absolute_path, file::Handle& handle);
-  bool may_change_names(const std::string& absolute_path) const;
   void touch(File& file) { file.changed = ++now_; }
 
   std::map<std::string, std::shared_ptr<File>> files_;
   std::map<std::string, Folder> folders_;
-  std::map<file::Handle, Open> handles_;
+  std::map<file::Handle, std::shared_ptr<File>> handles_;
   std::string current_ = "/kelmar";
   file::Handle next_handle_ = 3;
   std::uint64_t next_inode_ = 1;

@@ -1,4 +1,4 @@
-// The lines of databases, and the characters of tables.
+// The lines of databases (each ends in CR LF), and the characters of tables.
 #pragma once
 
 #include <string>
@@ -6,17 +6,11 @@
 
 namespace support {
 
-// CR LF after each line.
-inline std::string lines(std::initializer_list<std::string_view> all) {
-  std::string text;
-  for (const auto line : all) text.append(line).append("\r\n");
-  return text;
-}
-
 inline const std::string kTrailer =
-    lines({"0,\"\",0,0,0,0,0,0,0,0", "0,0", "0,\"For KELMAR\",0,0,0,0,0,0,0,0", "0,0", "0,\"\",0,0,0,0,0,0,0,0", "0,0"});
-inline const std::string kComponents = lines({"2,\"H2O\",0,0,0,\"\"", "150,\"Ca+2\",2,0,0,\"\"", "231,\"Cu+2\",2,0,0,\"\"",
-                                              "330,\"H+\",1,0,0,\"\"", "812,\"SOH\",0,0,0,\"\""});
+    "0,\"\",0,0,0,0,0,0,0,0\r\n0,0\r\n0,\"For KELMAR\",0,0,0,0,0,0,0,0\r\n0,0\r\n0,\"\",0,0,0,0,0,0,0,0\r\n0,0\r\n";
+inline const std::string kComponents =
+    "2,\"H2O\",0,0,0,\"\"\r\n150,\"Ca+2\",2,0,0,\"\"\r\n231,\"Cu+2\",2,0,0,\"\"\r\n"
+    "330,\"H+\",1,0,0,\"\"\r\n812,\"SOH\",0,0,0,\"\"\r\n";
 
 // The text that a table writes with \r, \n, \t and \x1a for characters, {trailer} for the lines that end a database, {one}
 // for a record, and {x*100} for a hundred x.
@@ -34,13 +28,11 @@ inline std::string plain(std::string_view text) {
       std::size_t end = 0;
       for (int depth = 1; depth > 0;) depth += rest[++end] == '{' ? 1 : rest[end] == '}' ? -1 : 0;
       const std::string_view name = rest.substr(1, end - 1);
-      const std::string once = name.rfind('*') == name.npos ? "" : plain(name.substr(0, name.rfind('*')));
-      if (name == "trailer")
-        result += kTrailer;
-      else if (name == "one")
-        result += "1,\"a\",0,0,0,0,0,0,0,0,0,0\r\n";
-      else
-        for (int n = std::stoi(std::string(name.substr(name.rfind('*') + 1))); n > 0; --n) result += once;
+      const std::size_t star = name.rfind('*');
+      const std::string once = star != name.npos   ? plain(name.substr(0, star))
+                               : name == "trailer" ? kTrailer
+                                                   : "1,\"a\",0,0,0,0,0,0,0,0,0,0\r\n";
+      for (int n = star != name.npos ? std::stoi(std::string(name.substr(star + 1))) : 1; n > 0; --n) result += once;
       i += name.size() + 1;
     } else {
       result += text[i];

@@ -14,6 +14,10 @@ put sorptemp.dat
 > load
 > select 0
 > describe lstReactions
+name [Present database species] description [] tooltip [none] lit
+> focus txtID
+focus txtID
+> describe lstReactions
 name [Present database species] description [] tooltip [none]
 > describe txtlogk
 name [log KF] description [] tooltip [none] label [log KF]
