@@ -48,15 +48,14 @@ QFont scaled(const QFont& desktop, const Font& font, double usual_points, double
 Layout make_layout(const WindowDef& def, const QFont& desktop) {
   const auto metrics = [&](const Font& font) { return QFontMetricsF(scaled(desktop, font, def.points, 1)); };
   const QSize screen = QGuiApplication::primaryScreen()->availableSize();
-  return {
-      def,
-      {.width = [&](const Font& font, std::string_view text) { return metrics(font).horizontalAdvance(from_bytes(text)); },
-       .line_height = metrics({}).height()},
-      {static_cast<double>(screen.width()), static_cast<double>(screen.height() - kFrameHeight)}};
+  return {def,
+          [&](const Font& font, std::string_view text) { return metrics(font).horizontalAdvance(from_bytes(text)); },
+          metrics({}).height(),
+          {screen.width(), screen.height() - kFrameHeight}};
 }
 
-QSize to_qt(Size size) { return {static_cast<int>(size.width), static_cast<int>(size.height)}; }
-Size from_qt(QSize size) { return {static_cast<double>(size.width()), static_cast<double>(size.height())}; }
+QSize to_qt(Size size) { return {size.width, size.height}; }
+Size from_qt(QSize size) { return {size.width(), size.height()}; }
 
 }  // namespace
 

@@ -24,7 +24,7 @@ void end_without_window(QtMsgType type, const QMessageLogContext&, const QString
 
 }  // namespace
 
-int run(char* program, const MakeForm& make_form) {
+int run(char* program, const std::function<std::unique_ptr<Form>(Dialogs&)>& make_form) {
   // The program remembers nothing from run to run: for what the toolkit and its file dialog would note in the temporary
   // folder and in the user's home, there is no folder.
   constexpr const char* kNowhere = "/dev/null";

@@ -29,9 +29,8 @@ void Caption::paintEvent(QPaintEvent* event) {
 }
 
 QValidator::State CodePageValidator::validate(QString& input, int& position) const {
-  int lost = 0;
-  const QString taken = from_bytes(to_bytes(input, &lost));
-  if (lost > 0) {
+  const QString taken = from_bytes(to_bytes(input));
+  if (taken != input) {
     position -= static_cast<int>(input.size() - taken.size());
     input = taken;
     emit left_out();

@@ -13,8 +13,7 @@
 #include "edit/species_record.h"
 #include "edit/suggestion.h"
 #include "file/error.h"
-#include "ui/dialogs.h"
-#include "ui/window.h"
+#include "ui/backend.h"
 
 namespace app {
 

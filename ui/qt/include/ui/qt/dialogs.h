@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "ui/dialogs.h"
+#include "ui/backend.h"
 
 class QWidget;
 

@@ -9,8 +9,8 @@ namespace ui::qt {
 
 QString from_bytes(std::string_view bytes);
 
-// Characters that the code page lacks, and line ends, are left out; `lost` counts them.
-std::string to_bytes(const QString& text, int* lost = nullptr);
+// Characters that the code page lacks, and line ends, are left out.
+std::string to_bytes(const QString& text);
 
 // A path, or a message that names one.
 QString from_path(std::string_view bytes);
