@@ -83,7 +83,7 @@ void start(benchmark::State& state, const char* database) {
     app::frmMaindb form(dialogs, file::system());
     ui::qt::MainWindow window(form);
     form.load();
-    window.push(true);
+    window.push();
     window.show();
     paint(window);
   }
@@ -113,7 +113,7 @@ int print_memory(bool program) {
     std::ofstream("sorptemp.dat") << "bench.mdb";
     window = std::make_unique<ui::qt::MainWindow>(form);
     form.load();
-    window->push(true);
+    window->push();
   }
   QWidget& shown = program ? *window : empty;
   shown.show();

@@ -50,7 +50,7 @@ TEST(Qt, CutsNoCaptionAndShowsLongTextsInTooltips) {
     qt.window.resize(qt.window.size() * factor);
     QApplication::processEvents();
     for (int i = 0; i < app::kControls; ++i) {
-      auto* label = qobject_cast<ui::qt::Caption*>(qt.window.widget(i));
+      auto* label = dynamic_cast<ui::qt::Caption*>(qt.window.widget(i));
       EXPECT_FALSE(label != nullptr && label->is_shortened()) << label->text().toStdString();
     }
   }
@@ -76,9 +76,9 @@ TEST(Qt, CutsNoCaptionAndShowsLongTextsInTooltips) {
   EXPECT_EQ(tooltip(app::lblComp), "<span>" + name + name + "b</span>");
   // In the encoding of file names where it is that, else in the code page.
   picture(app::lblNameDb, "\xc3\xa4.mdb");
-  EXPECT_EQ(qobject_cast<ui::qt::Caption*>(qt.window.widget(app::lblNameDb))->text(), QString::fromUtf8("\u00e4.mdb"));
+  EXPECT_EQ(dynamic_cast<ui::qt::Caption*>(qt.window.widget(app::lblNameDb))->text(), QString::fromUtf8("\u00e4.mdb"));
   picture(app::lblNameDb, "\xe4.mdb");
-  EXPECT_EQ(qobject_cast<ui::qt::Caption*>(qt.window.widget(app::lblNameDb))->text(), QString::fromUtf8("\u00e4.mdb"));
+  EXPECT_EQ(dynamic_cast<ui::qt::Caption*>(qt.window.widget(app::lblNameDb))->text(), QString::fromUtf8("\u00e4.mdb"));
 }
 
 // The note about M.B. stoichiometries gives way to the rows that lie over it; boxes above one another are alike.
