@@ -1,40 +1,58 @@
 #include "ui/code_page.h"
 
+#include <algorithm>
+#include <bit>
+
 namespace ui {
 namespace {
 
-// How many bytes make the UTF-8 character at the beginning, and which one it is; nothing for what is none.
-struct Character {
-  std::size_t size;
-  char32_t code;
-};
-std::optional<Character> first_character(std::string_view bytes) {
-  constexpr char32_t kLeast[] = {0, 0, 0x80, 0x800, 0x10000};  // by size: a longer form of a character is none
-  const auto lead = static_cast<unsigned char>(bytes.front());
-  const std::size_t size = lead < 0x80 ? 1 : lead < 0xC0 ? 0 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : lead < 0xF8 ? 4 : 0;
-  if (size < 2 || bytes.size() < size) return std::nullopt;
-  char32_t code = lead & (0x7Fu >> size);
-  for (const char c : bytes.substr(1, size - 1)) {
-    if ((c & 0xC0) != 0x80) return std::nullopt;
-    code = code << 6 | (static_cast<unsigned char>(c) & 0x3Fu);
-  }
-  if (code < kLeast[size] || code > 0x10FFFF || (code >= 0xD800 && code < 0xE000)) return std::nullopt;
-  return Character{size, code};
-}
+// The characters of the bytes 80 to 9F hexadecimal; all other bytes are their own code points. The five bytes that the
+// code page leaves undefined (81, 8D, 8F, 90, 9D) become the control characters of that number, so that they survive.
+constexpr char16_t kCodePage[] = {0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+                                  0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+                                  0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+char16_t to_unicode(unsigned char byte) { return byte >= 0x80 && byte <= 0x9F ? kCodePage[byte - 0x80] : byte; }
 
 }  // namespace
 
+std::u16string to_unicode(std::string_view bytes) {
+  std::u16string text;
+  for (const char byte : bytes) text += to_unicode(static_cast<unsigned char>(byte));
+  return text;
+}
+
+std::string from_unicode(std::u16string_view text) {
+  std::string bytes;
+  for (const char16_t character : text) {
+    if (const auto* found = std::ranges::find(kCodePage, character); found != std::end(kCodePage))
+      bytes += static_cast<char>(0x80 + (found - kCodePage));
+    else if ((character < 0x80 || (character >= 0xA0 && character <= 0xFF)) && character != '\r' && character != '\n')
+      bytes += static_cast<char>(character);
+  }
+  return bytes;
+}
+
 std::u16string path_to_unicode(std::string_view bytes) {
+  constexpr char32_t kLeast[] = {0, 0, 0x80, 0x800, 0x10000};  // by size: a longer form of a character is none
   std::u16string text;
   while (!bytes.empty()) {
-    const auto character = first_character(bytes).value_or(Character{1, to_unicode(bytes.front())});
-    if (character.code < 0x10000) {
-      text += static_cast<char16_t>(character.code);
+    const auto lead = static_cast<unsigned char>(bytes.front());
+    const auto size = static_cast<std::size_t>(std::countl_one(lead));
+    char32_t code = lead & (0x7Fu >> size);
+    std::size_t read = 1;
+    for (; read < std::min(size, bytes.size()) && (bytes[read] & 0xC0) == 0x80; ++read)
+      code = code << 6 | (bytes[read] & 0x3F);
+    if (size < 2 || size > 4 || read < size || code < kLeast[size] || code > 0x10FFFF || (code >= 0xD800 && code < 0xE000)) {
+      text += to_unicode(lead);
+      read = 1;
+    } else if (code < 0x10000) {
+      text += static_cast<char16_t>(code);
     } else {
-      text += static_cast<char16_t>(0xD7C0 + (character.code >> 10));
-      text += static_cast<char16_t>(0xDC00 + (character.code & 0x3FF));
+      text += static_cast<char16_t>(0xD7C0 + (code >> 10));
+      text += static_cast<char16_t>(0xDC00 + (code & 0x3FF));
     }
-    bytes.remove_prefix(character.size);
+    bytes.remove_prefix(read);
   }
   return text;
 }

@@ -12,12 +12,6 @@ constexpr double kButtonMargin = 18;   // pixels beside the text of a button
 constexpr double kLabelMargin = 4;
 constexpr int kTouching = 45;  // twips by which a box may overlap a label without covering it
 
-// Pixels that the control's caption takes; 0 where any width will do.
-double width_needed(const ControlDef& control, const Measure& measure) {
-  if ((control.kind != Kind::Label && control.kind != Kind::Button) || control.wraps || control.caption.empty()) return 0;
-  return measure.width(control.font, control.caption) + (control.kind == Kind::Button ? kButtonMargin : kLabelMargin);
-}
-
 bool covers(const Place& box, const Place& label) {
   return box.left < label.left + label.width && label.left < box.left + box.width &&
          box.top + kTouching < label.top + label.height && label.top + kTouching < box.top + box.height;
@@ -27,19 +21,21 @@ int scaled(int twips, double factor) { return static_cast<int>(std::lround(twips
 
 }  // namespace
 
-Layout::Layout(const WindowDef& def, const Measure& measure, Size available) : def_(def) {
+Layout::Layout(const WindowDef& def, const TextWidth& text_width, double line_height, Size available) : def_(def) {
   double across = 1;
   for (const ControlDef& control : def.controls) {
-    const int width = std::min(control.place.width, def.width - control.place.left);
-    if (width > 0) across = std::max(across, width_needed(control, measure) / (width / kTwipsPerPixel));
+    const bool button = control.kind == Kind::Button;
+    if ((control.kind != Kind::Label && !button) || control.wraps || control.caption.empty()) continue;
+    const double needed = text_width(control.font, control.caption) + (button ? kButtonMargin : kLabelMargin);
+    across = std::max(across, needed / (std::min(control.place.width, def.width - control.place.left) / kTwipsPerPixel));
   }
-  const double down = std::max(1., (measure.line_height + kRowMargin) / (def.row / kTwipsPerPixel));
+  const double down = std::max(1., (line_height + kRowMargin) / (def.row / kTwipsPerPixel));
   const double width = def.width / kTwipsPerPixel * across, height = def.height / kTwipsPerPixel * down;
   fitting_ = std::min({1., available.width / width, available.height / height});
-  start_ = {std::ceil(width * fitting_), std::ceil(height * fitting_)};
+  start_ = {static_cast<int>(std::ceil(width * fitting_)), static_cast<int>(std::ceil(height * fitting_))};
 }
 
-double Layout::growth(Size area) const { return std::min(area.width / start_.width, area.height / start_.height); }
+double Layout::growth(Size area) const { return std::min(1. * area.width / start_.width, 1. * area.height / start_.height); }
 
 Place Layout::place(int control, const Window& window, Size area) const {
   const ControlDef& def = def_.controls[static_cast<std::size_t>(control)];

@@ -15,7 +15,7 @@ QLineEdit* QtPlayer::edit(int control) {
 
 void QtPlayer::do_load() {
   Player::do_load();
-  window.push(true);
+  window.push();
   window.setVisible(!form.window().ended);
 }
 

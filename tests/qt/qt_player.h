@@ -19,7 +19,7 @@ class QtPlayer : public Player {
  public:
   explicit QtPlayer(file::System& system) : Player(system) {}
 
-  ui::qt::EntryList* list() { return qobject_cast<ui::qt::EntryList*>(window.widget(app::lstReactions)); }
+  ui::qt::EntryList* list() { return dynamic_cast<ui::qt::EntryList*>(window.widget(app::lstReactions)); }
   QPoint middle(int entry);
   QLineEdit* edit(int control);
   // Lets the window settle. Gives the controls whose widgets differ from the values.

@@ -139,7 +139,7 @@ class CheckedPlayer final : public QtPlayer {
       std::cout << "the widgets show something else:" << differing << '\n';
     if (open && form.window().ended) std::cout << "the window stays open\n";
     for (int i = 0; open && i < app::kControls; ++i) {
-      const auto* caption = qobject_cast<ui::qt::Caption*>(window.widget(i));
+      const auto* caption = dynamic_cast<ui::qt::Caption*>(window.widget(i));
       if (caption != nullptr && caption->is_shortened() && !form.definition().controls[static_cast<std::size_t>(i)].path)
         std::cout << name_of(caption) << " is cut\n";
     }

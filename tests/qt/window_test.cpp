@@ -74,7 +74,7 @@ TEST(Qt, ShortensAPathInItsMiddleAndACaptionAtItsEnd) {
   // In the encoding of file names where it is that, else in the code page.
   for (const char* path : {"\xc3\xa4.mdb", "\xe4.mdb"}) {
     picture(app::lblNameDb, path);
-    EXPECT_EQ(qobject_cast<ui::qt::Caption*>(qt.window.widget(app::lblNameDb))->text(), QString::fromUtf8("\u00e4.mdb"));
+    EXPECT_EQ(dynamic_cast<ui::qt::Caption*>(qt.window.widget(app::lblNameDb))->text(), QString::fromUtf8("\u00e4.mdb"));
   }
 }
 

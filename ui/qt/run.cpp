@@ -2,6 +2,7 @@
 #include <QSettings>
 #include <cstdio>
 #include <cstdlib>
+#include <string>
 
 #include "ui/backend.h"
 #include "ui/qt/dialogs.h"
@@ -10,21 +11,28 @@
 namespace ui {
 namespace {
 
+std::string name;  // of the program, in messages
+
 // The toolkit ends the program by abort() when it cannot open a window; nothing has been opened by then.
 void end_without_window(QtMsgType type, const QMessageLogContext&, const QString& message) {
   static QString said;
   said += message + "\n";
   if (type != QtFatalMsg) return;
   bool display = false;
-  for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) display |= qEnvironmentVariableIsSet(name);
-  std::fprintf(stderr, "kelmar-dbedit: the window cannot be opened: %s\n",
+  for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+    display |= qEnvironmentVariableIsSet(variable);
+  std::fprintf(stderr, "%s: the window cannot be opened: %s\n", name.c_str(),
                display ? qPrintable(said.trimmed()) : "there is no display.");
   std::exit(1);
 }
 
 }  // namespace
 
-int run(char* program, const MakeForm& make_form) {
+int run(char* program, const std::function<std::unique_ptr<Form>(Dialogs&)>& make_form) {
+  qt::QtDialogs dialogs;
+  const auto form = make_form(dialogs);
+  name = form->definition().program;
+
   // The program remembers nothing from run to run: for what the toolkit and its file dialog would note in the temporary
   // folder and in the user's home, there is no folder.
   constexpr const char* kNowhere = "/dev/null";
@@ -37,13 +45,11 @@ int run(char* program, const MakeForm& make_form) {
   const QApplication application(argc, argv);
   qInstallMessageHandler(usual);
 
-  qt::QtDialogs dialogs;
-  const auto form = make_form(dialogs);
   qt::MainWindow window(*form);
   form->load();
   if (form->window().ended) return form->window().status;
   dialogs.attach_to(&window, [&window] { window.push(); });
-  window.push(true);
+  window.push();
   window.show();
   return QApplication::exec();
 }

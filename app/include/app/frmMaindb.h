@@ -13,7 +13,7 @@
 #include "edit/display.h"
 #include "edit/suggestion.h"
 #include "file/input.h"
-#include "ui/dialogs.h"
+#include "ui/backend.h"
 #include "ui/window.h"
 
 namespace app {

@@ -11,19 +11,15 @@
 namespace ui {
 
 struct Size {
-  double width = 0, height = 0;  // in pixels
-};
-
-// How the desktop's font comes out, in pixels, where a font of WindowDef::points has the desktop's usual size.
-struct Measure {
-  std::function<double(const Font&, std::string_view)> width;
-  double line_height = 0;  // of the usual font
+  int width = 0, height = 0;  // in pixels
 };
 
 class Layout {
  public:
+  // How the desktop's font comes out, in pixels, where a font of WindowDef::points has the desktop's usual size.
+  using TextWidth = std::function<double(const Font&, std::string_view)>;
   // The window starts no larger than `available`.
-  Layout(const WindowDef& def, const Measure& measure, Size available);
+  Layout(const WindowDef& def, const TextWidth& text_width, double line_height, Size available);
 
   Size start() const { return start_; }
   // For a client area of this size: how much larger or smaller fonts are than the desktop's.

@@ -6,13 +6,13 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
-#include "ui/dialogs.h"
+#include "ui/backend.h"
 
 namespace ui::memory {
 
-// Answers questions and file dialogs from queues: an unexpected question is answered No, an unexpected file dialog
-// cancelled. Tells of everything asked in one line each:
+// An unexpected question is answered No, an unexpected file dialog cancelled. Tells of everything asked in one line each:
 // "box [TITLE] ICON BUTTONS [PROMPT]", "dialog FORM [FILTER]".
 class ScriptedDialogs final : public Dialogs {
  public:
@@ -20,8 +20,25 @@ class ScriptedDialogs final : public Dialogs {
   std::deque<std::optional<std::string>> choices;
   std::function<void(const std::string& line)> told;
 
-  Answer message(std::string_view prompt, std::string_view title, Icon icon, Buttons buttons) override;
-  std::optional<std::string> choose_file(const FileRequest& request) override;
+  Answer message(std::string_view prompt, std::string_view title, Icon icon, Buttons buttons) override {
+    const bool question = buttons == Buttons::YesNo;
+    told("box [" + std::string(title) + "] " + (icon == Icon::Critical ? "critical" : "question") +
+         (question ? " YesNo [" : " OK [") + std::string(prompt) + "]");
+    return question ? next(answers, Answer::No) : Answer::Ok;
+  }
+  std::optional<std::string> choose_file(const FileRequest& request) override {
+    told((request.form == FileRequest::Form::Open ? "dialog open [" : "dialog save [") + std::string(request.filter) + "]");
+    return next(choices, std::optional<std::string>());
+  }
+
+ private:
+  template <typename Value>
+  static Value next(std::deque<Value>& queue, Value otherwise) {
+    if (queue.empty()) return otherwise;
+    otherwise = std::move(queue.front());
+    queue.pop_front();
+    return otherwise;
+  }
 };
 
 }  // namespace ui::memory

@@ -5,17 +5,12 @@
 #include <string>
 #include <string_view>
 
+#include "ui/code_page.h"
+
 namespace ui::qt {
 
-QString from_bytes(std::string_view bytes);
-
-// Characters that the code page lacks, and line ends, are left out; `lost` counts them.
-std::string to_bytes(const QString& text, int* lost = nullptr);
-
-// A path, or a message that names one.
-QString from_path(std::string_view bytes);
-
-// So that no markup in a file is taken for formatting.
-QString plain_tooltip(const QString& text);
+inline QString from_bytes(std::string_view bytes) { return QString::fromStdU16String(to_unicode(bytes)); }
+inline QString from_path(std::string_view bytes) { return QString::fromStdU16String(path_to_unicode(bytes)); }
+inline std::string to_bytes(const QString& text) { return from_unicode(text.toStdU16String()); }
 
 }  // namespace ui::qt
