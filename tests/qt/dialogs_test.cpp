@@ -30,7 +30,8 @@ using ui::qt::QtDialogs;
 class QtDialog : public testing::Test {
  protected:
   QtDialog() {
-    dialogs.attach_to(&parent, [this] { ++pushed; });
+    dialogs.parent = &parent;
+    dialogs.push = [this] { ++pushed; };
   }
   // What is done to the dialog that opens next.
   template <typename Dialog>
