@@ -113,18 +113,17 @@ void MainWindow::build(int control) {
         if (!pushing_) form_.window()[control].text = shown.text = to_bytes(text);
       });
       view.widget = box;
-      view.show_text = [box](const QString& text) { box->show_text(text); };
+      view.show_text = [box, combo](const QString& text) {
+        if (combo != nullptr) combo->setCurrentIndex(combo->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive));
+        box->show_text(text);
+      };
       if (combo == nullptr) break;
+      view.widget = combo;
       connect(combo, &QComboBox::activated, this, [this, control](int entry) {
         Control& value = form_.window()[control];
         if (!running_) value.text = value.entries[static_cast<std::size_t>(entry)];
         run(control);
       });
-      view.widget = combo;
-      view.show_text = [box, combo](const QString& text) {
-        combo->setCurrentIndex(combo->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive));
-        box->show_text(text);
-      };
     }
   }
   view.widget->setAccessibleDescription(from_bytes(def.about));
