@@ -24,12 +24,10 @@ std::u16string to_unicode(std::string_view bytes) {
 
 std::string from_unicode(std::u16string_view text) {
   std::string bytes;
-  for (const char16_t character : text) {
-    if (const auto* found = std::ranges::find(kCodePage, character); found != std::end(kCodePage))
-      bytes += static_cast<char>(0x80 + (found - kCodePage));
-    else if ((character < 0x80 || (character >= 0xA0 && character <= 0xFF)) && character != '\r' && character != '\n')
-      bytes += static_cast<char>(character);
-  }
+  for (const char16_t character : text)
+    for (int byte = 0; byte <= 0xFF; ++byte)
+      if (to_unicode(static_cast<unsigned char>(byte)) == character && byte != '\r' && byte != '\n')
+        bytes += static_cast<char>(byte);
   return bytes;
 }
 
@@ -49,8 +47,7 @@ std::u16string path_to_unicode(std::string_view bytes) {
     } else if (code < 0x10000) {
       text += static_cast<char16_t>(code);
     } else {
-      text += static_cast<char16_t>(0xD7C0 + (code >> 10));
-      text += static_cast<char16_t>(0xDC00 + (code & 0x3FF));
+      text += {static_cast<char16_t>(0xD7C0 + (code >> 10)), static_cast<char16_t>(0xDC00 + (code & 0x3FF))};
     }
     bytes.remove_prefix(read);
   }

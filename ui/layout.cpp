@@ -35,8 +35,6 @@ Layout::Layout(const WindowDef& def, const TextWidth& text_width, double line_he
   start_ = {static_cast<int>(std::ceil(width * fitting_)), static_cast<int>(std::ceil(height * fitting_))};
 }
 
-double Layout::growth(Size area) const { return std::min(1. * area.width / start_.width, 1. * area.height / start_.height); }
-
 Place Layout::place(int control, const Window& window, Size area) const {
   const ControlDef& def = def_.controls[static_cast<std::size_t>(control)];
   Place place = def.drawn.width > 0 ? def.drawn : def.place;

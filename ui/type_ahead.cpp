@@ -19,11 +19,9 @@ int TypeAhead::find(const std::vector<std::string>& entries, int current, std::s
   const bool one = typed_.find_first_not_of(typed_.front()) == std::string::npos;
   const std::string_view wanted = one ? std::string_view(typed_).substr(0, 1) : typed_;
   const std::size_t count = entries.size(), first = static_cast<std::size_t>(one ? current + 1 : std::max(current, 0));
-  for (std::size_t i = 0; i < count; ++i) {
-    const std::size_t entry = (first + i) % count;
-    const std::string_view beginning = std::string_view(entries[entry]).substr(0, wanted.size());
-    if (std::ranges::equal(beginning, wanted, {}, lower, lower)) return static_cast<int>(entry);
-  }
+  for (std::size_t i = 0; i < count; ++i)
+    if (std::ranges::equal(entries[(first + i) % count].substr(0, wanted.size()), wanted, {}, lower, lower))
+      return static_cast<int>((first + i) % count);
   return -1;
 }
 

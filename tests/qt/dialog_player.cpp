@@ -49,7 +49,8 @@ void reply(QStringList replies) {
 
 void play_dialog(QWidget* parent, const std::string& form, const std::string& text, const QString& replies) {
   ui::qt::QtDialogs dialogs;
-  dialogs.attach_to(parent, [] { std::cout << "the window shows what stands\n"; });
+  dialogs.parent = parent;
+  dialogs.push = [] { std::cout << "the window shows what stands\n"; };
   QTimer::singleShot(0, [] { describe(QApplication::activeModalWidget()); });
   reply(replies.split('|'));
   if (form == "tell" || form == "ask") {

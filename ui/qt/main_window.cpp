@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <map>
 #include <set>
+#include <utility>
 
 #include "ui/qt/text.h"
 #include "ui/qt/widgets.h"
@@ -27,10 +28,7 @@ void set_color(QWidget* widget, QPalette::ColorRole role, const Color& color) {
   widget->setAutoFillBackground(role == QPalette::Window);
 }
 
-Size largest() {
-  const QSize screen = QGuiApplication::primaryScreen()->availableSize();
-  return {screen.width(), screen.height() - kFrameHeight};
-}
+Size from_qt(QSize size) { return {size.width(), size.height()}; }
 
 }  // namespace
 
@@ -41,7 +39,8 @@ MainWindow::MainWindow(Form& form)
           [this](const Font& font, std::string_view text) {
             return QFontMetricsF(font_of(font, 1)).horizontalAdvance(from_bytes(text));
           },
-          QFontMetricsF(font_of({}, 1)).height(), largest()),
+          QFontMetricsF(font_of({}, 1)).height(),
+          from_qt(QGuiApplication::primaryScreen()->availableSize() - QSize(0, kFrameHeight))),
       views_(form.definition().controls.size()) {
   setWindowTitle(from_bytes(form.definition().caption));
   set_color(area_, QPalette::Window, form.definition().background);
@@ -51,7 +50,12 @@ MainWindow::MainWindow(Form& form)
   for (const bool labels : {true, false})
     for (int i = 0; i < controls(); ++i)
       if ((def(i).kind == Kind::Label || def(i).kind == Kind::Line) == labels) build(i);
-  set_focus_order();
+  std::map<int, QWidget*> order;  // of the focus
+  for (int i = 0; i < controls(); ++i)
+    if (def(i).tab >= 0) order[def(i).tab] = widget(i);
+  QWidget* before = nullptr;
+  for (const auto& [tab, next] : order) setTabOrder(std::exchange(before, next), next);
+  order.begin()->second->setFocus();
   const QSize start(layout_.start().width, layout_.start().height);
   area_->installEventFilter(this);
   area_->resize(start);
@@ -66,8 +70,7 @@ void MainWindow::build(int control) {
   const auto click = [this, control] { run(control); };
   switch (def.kind) {
     case Kind::MenuItem:
-      view.action = menu_->addAction(QString());
-      connect(view.action, &QAction::triggered, this, click);
+      view.action = menu_->addAction(QString(), this, click);
       view.show_text = [action = view.action](const QString& text) { action->setText(text); };
       return;
     case Kind::Button: {
@@ -110,29 +113,20 @@ void MainWindow::build(int control) {
         if (!pushing_) form_.window()[control].text = shown.text = to_bytes(text);
       });
       view.widget = box;
-      view.show_text = [box](const QString& text) { box->show_text(text); };
+      view.show_text = [box, combo](const QString& text) {
+        if (combo != nullptr) combo->setCurrentIndex(combo->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive));
+        box->show_text(text);
+      };
       if (combo == nullptr) break;
+      view.widget = combo;
       connect(combo, &QComboBox::activated, this, [this, control](int entry) {
         Control& value = form_.window()[control];
         if (!running_) value.text = value.entries[static_cast<std::size_t>(entry)];
         run(control);
       });
-      view.widget = combo;
-      view.show_text = [box, combo](const QString& text) {
-        combo->setCurrentIndex(combo->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive));
-        box->show_text(text);
-      };
     }
   }
   view.widget->setAccessibleDescription(from_bytes(def.about));
-}
-
-void MainWindow::set_focus_order() {
-  std::map<int, QWidget*> order;
-  for (int i = 0; i < controls(); ++i)
-    if (def(i).tab >= 0) order[def(i).tab] = widget(i);
-  for (auto next = order.begin(), one = next++; next != order.end(); one = next++) setTabOrder(one->second, next->second);
-  order.begin()->second->setFocus();
 }
 
 // A font of the table where the desktop's has the usual size.
@@ -147,18 +141,17 @@ QFont MainWindow::font_of(const Font& font, double factor) const {
 
 void MainWindow::arrange() {
   // By the size of the whole window: the menu's own height would feed back into it.
-  const QFont menu = font_of({}, layout_.font_factor({width(), height() - menu_height_}));
+  const QFont menu = font_of({}, layout_.font_factor(from_qt(size() - QSize(0, menu_height_))));
   menuBar()->setFont(menu);
   menu_->setFont(menu);
-  for (int i = 0; i < controls(); ++i) {
-    if (widget(i) == nullptr) continue;
-    widget(i)->setFont(font_of(def(i).font, layout_.font_factor(area())));
-    place(i);
-  }
+  for (int i = 0; i < controls(); ++i)
+    if (widget(i) != nullptr) arrange(i);
 }
 
-void MainWindow::place(int control) {
-  const Place place = layout_.place(control, form_.window(), area());
+void MainWindow::arrange(int control) {
+  const Size area = from_qt(area_->size());
+  const Place place = layout_.place(control, form_.window(), area);
+  widget(control)->setFont(font_of(def(control).font, layout_.font_factor(area)));
   widget(control)->setGeometry(place.left, place.top, place.width, place.height);
 }
 
@@ -170,7 +163,6 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
 void MainWindow::closeEvent(QCloseEvent* event) {
   if (running_) return event->ignore();
   form_.window().ended = true;
-  event->accept();
   QApplication::exit(form_.window().status);
 }
 
@@ -197,15 +189,10 @@ void MainWindow::push() {
     if (now.text != before.text) show_text(def(i).path ? from_path(now.text) : from_bytes(now.text));
     before.text = now.text;
     if (widget != nullptr) widget->setVisible(now.shown);
-    if (def(i).elsewhere.width > 0) place(i);
+    if (def(i).elsewhere.width > 0) arrange(i);
   }
-  name_boxes();
-  pushing_ = false;
-}
-
-// A screen reader tells a box by its label. A label can name only one box, the first that is shown, and no list: the others
-// bear its text.
-void MainWindow::name_boxes() {
+  // A screen reader tells a box by its label. A label can name only one box, the first that is shown, and no list: the
+  // others bear its text.
   std::set<QLabel*> naming;
   for (int i = 0; i < controls(); ++i) {
     if (def(i).label < 0) continue;
@@ -215,6 +202,7 @@ void MainWindow::name_boxes() {
     const QString name = first && def(i).kind != Kind::ListBox ? QString() : label->text();
     if (widget(i)->accessibleName() != name) widget(i)->setAccessibleName(name);
   }
+  pushing_ = false;
 }
 
 }  // namespace ui::qt

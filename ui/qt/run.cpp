@@ -19,8 +19,7 @@ void end_without_window(QtMsgType type, const QMessageLogContext&, const QString
   said += message + "\n";
   if (type != QtFatalMsg) return;
   bool display = false;
-  for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
-    display |= qEnvironmentVariableIsSet(variable);
+  for (const char* place : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) display |= qEnvironmentVariableIsSet(place);
   std::fprintf(stderr, "%s: the window cannot be opened: %s\n", name.c_str(),
                display ? qPrintable(said.trimmed()) : "there is no display.");
   std::exit(1);
@@ -48,7 +47,8 @@ int run(char* program, const std::function<std::unique_ptr<Form>(Dialogs&)>& mak
   qt::MainWindow window(*form);
   form->load();
   if (form->window().ended) return form->window().status;
-  dialogs.attach_to(&window, [&window] { window.push(); });
+  dialogs.parent = &window;
+  dialogs.push = [&window] { window.push(); };
   window.push();
   window.show();
   return QApplication::exec();

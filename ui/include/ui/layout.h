@@ -3,6 +3,7 @@
 // the table was made. A larger window shows all of it larger, in the same proportions.
 #pragma once
 
+#include <algorithm>
 #include <functional>
 #include <string_view>
 
@@ -28,7 +29,8 @@ class Layout {
   Place place(int control, const Window& window, Size area) const;
 
  private:
-  double growth(Size area) const;  // since the start
+  // Since the start.
+  double growth(Size area) const { return std::min(1. * area.width / start_.width, 1. * area.height / start_.height); }
 
   const WindowDef& def_;
   double fitting_;

@@ -23,11 +23,10 @@ class MainWindow : public QMainWindow {
   QWidget* widget(int control) const { return views_[static_cast<std::size_t>(control)].widget; }
   QAction* action(int control) const { return views_[static_cast<std::size_t>(control)].action; }
 
- protected:
+ private:
   bool eventFilter(QObject* watched, QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
 
- private:
   // A control on the screen.
   struct View {
     QWidget* widget = nullptr;
@@ -37,15 +36,12 @@ class MainWindow : public QMainWindow {
   };
 
   void build(int control);
-  void set_focus_order();
   void arrange();
-  void place(int control);
-  void name_boxes();
+  void arrange(int control);
   void run(int control);
 
   const ControlDef& def(int control) const { return form_.definition().controls[static_cast<std::size_t>(control)]; }
   int controls() const { return static_cast<int>(views_.size()); }
-  Size area() const { return {area_->width(), area_->height()}; }
   QFont font_of(const Font& font, double factor) const;
 
   Form& form_;

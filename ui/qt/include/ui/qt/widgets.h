@@ -37,7 +37,7 @@ class Caption : public QLabel {
   }
   bool is_shortened() const { return !wordWrap() && fontMetrics().horizontalAdvance(text()) > contentsRect().width(); }
 
- protected:
+ private:
   bool event(QEvent* event) override {
     if (event->type() == QEvent::ToolTip) return show_tooltip(this, event, text(), is_shortened());
     return QLabel::event(event);
@@ -49,26 +49,23 @@ class Caption : public QLabel {
     QPainter(this).drawText(inside, static_cast<int>(alignment()), shown);
   }
 
- private:
   const Qt::TextElideMode cut_;
 };
 
 // Lets only characters of the code page into a text box.
 class CodePageValidator : public QValidator {
  public:
-  explicit CodePageValidator(QWidget* box) : QValidator(box), box_(box) {}
+  using QValidator::QValidator;
   State validate(QString& input, int& position) const override {
     const QString taken = from_bytes(to_bytes(input));
     if (taken == input) return Acceptable;
     position -= static_cast<int>(input.size() - taken.size());
     input = taken;
-    QToolTip::showText(box_->mapToGlobal(QPoint(0, box_->height())),
-                       "A character was left out: the files hold only those of the code page Windows-1252.", box_);
+    auto* box = static_cast<QWidget*>(parent());
+    QToolTip::showText(box->mapToGlobal(QPoint(0, box->height())),
+                       "A character was left out: the files hold only those of the code page Windows-1252.", box);
     return Acceptable;
   }
-
- private:
-  QWidget* const box_;
 };
 
 // A text is seen from its beginning when it is set, and when the user has left it (not for its own menu).
@@ -83,7 +80,7 @@ class TextBox : public QLineEdit {
     setCursorPosition(0);
   }
 
- protected:
+ private:
   bool event(QEvent* event) override {
     constexpr int kMargin = 8;  // pixels beside the text
     if (event->type() != QEvent::ToolTip) return QLineEdit::event(event);
@@ -115,7 +112,7 @@ class PickBox : public QComboBox {
 
   TextBox* const edit = new TextBox(this);
 
- protected:
+ private:
   bool event(QEvent* event) override {
     return event->type() == QEvent::ToolTip ? lineEdit()->event(event) : QComboBox::event(event);
   }
@@ -126,19 +123,17 @@ class PickBox : public QComboBox {
 class EntryModel : public QAbstractListModel {
  public:
   using QAbstractListModel::QAbstractListModel;
-  void set_entries(const std::vector<std::string>& entries) {
+  void reset(const std::vector<std::string>& now) {
     beginResetModel();
-    entries_ = entries;
+    entries = now;
     endResetModel();
   }
-  const std::vector<std::string>& entries() const { return entries_; }
-  int rowCount(const QModelIndex& parent) const override { return parent.isValid() ? 0 : static_cast<int>(entries_.size()); }
+  int rowCount(const QModelIndex& parent) const override { return parent.isValid() ? 0 : static_cast<int>(entries.size()); }
   QVariant data(const QModelIndex& index, int role) const override {
-    return role == Qt::DisplayRole ? from_bytes(entries_[static_cast<std::size_t>(index.row())]) : QVariant();
+    return role == Qt::DisplayRole ? from_bytes(entries[static_cast<std::size_t>(index.row())]) : QVariant();
   }
 
- private:
-  std::vector<std::string> entries_;
+  std::vector<std::string> entries;
 };
 
 // A list of which an entry is chosen by mouse, keys, typing its first letters, or a screen reader; the entry chosen already
@@ -157,22 +152,17 @@ class EntryList : public QListView {
     horizontalScrollBar()->setPalette(usual);
     show_focus(QPalette::Mid);
   }
-  const std::vector<std::string>& entries() const { return model_.entries(); }
-  void show_entries(const std::vector<std::string>& entries) {
-    quietly([&] { model_.set_entries(entries); });
-  }
+  const std::vector<std::string>& entries() const { return model_.entries; }
+  void show_entries(const std::vector<std::string>& entries) { model_.reset(entries); }
   int selected() const { return selectionModel()->selectedIndexes().value(0).row(); }  // -1: none
   void show_selected(int selected) {
-    quietly([&] {
-      if (selected < 0) return selectionModel()->clear();
-      setCurrentIndex(model_.index(selected));
-      scrollTo(currentIndex());
-    });
+    quietly([&] { selected < 0 ? selectionModel()->clear() : setCurrentIndex(model_.index(selected)); });
+    scrollTo(currentIndex());
   }
 
   std::function<void(int entry)> chosen = [](int) {};  // -1: somebody took the choice back
 
- protected:
+ private:
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent*) const override {
     return index.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
   }
@@ -194,14 +184,10 @@ class EntryList : public QListView {
     const bool letter = event->key() > Qt::Key_Space && !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) &&
                         !event->text().isEmpty() && event->text().front().isPrint();
     const int before = selected();
+    const int found = letter ? letters_.find(entries(), before, to_bytes(event->text()), event->timestamp()) : -1;
     quietly([&] {
-      const int found = letter ? letters_.find(entries(), before, to_bytes(event->text()), event->timestamp()) : -1;
-      if (found >= 0)
-        setCurrentIndex(model_.index(found));
-      else if (!enter && !letter)
-        QListView::keyPressEvent(event);
-      else if (currentIndex().isValid())
-        selectionModel()->select(currentIndex(), QItemSelectionModel::ClearAndSelect);
+      if (found >= 0) setCurrentIndex(model_.index(found));
+      if (!enter && !letter) QListView::keyPressEvent(event);
     });
     if (selected() >= 0 && (enter || selected() != before)) chosen(selected());
   }
@@ -219,7 +205,6 @@ class EntryList : public QListView {
     show_focus(QPalette::Mid);
   }
 
- private:
   void show_focus(QPalette::ColorRole frame) {
     QPalette shown = palette();
     shown.setColor(QPalette::WindowText, shown.color(QPalette::Active, frame));
