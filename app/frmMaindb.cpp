@@ -1,7 +1,5 @@
 #include "app/frmMaindb.h"
 
-#include <utility>
-
 #include "db/number.h"
 #include "db/species_reader.h"
 #include "edit/models.h"
@@ -173,10 +171,6 @@ void frmMaindb::cmdCompdb_Click() {
 void frmMaindb::cboIsoterm_Click() {
   state_.open.isoselect = text(cboIsoterm);
   Listfill();
-}
-
-void frmMaindb::set_shown(std::initializer_list<int> controls, bool shown) {
-  for (const int control : controls) window_[control].shown = shown;
 }
 
 }  // namespace app

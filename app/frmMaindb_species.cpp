@@ -1,8 +1,4 @@
 #include <algorithm>
-#include <optional>
-#include <string>
-#include <string_view>
-#include <utility>
 
 #include "app/frmMaindb.h"
 #include "db/field_reader.h"
@@ -85,10 +81,6 @@ void frmMaindb::cmdAddnew_Click() {
   set(txtNocomp, "0");
   state_.compslot = 1;
   if (choices.failure) refuse(*choices.failure);
-}
-
-void frmMaindb::cmdNextcomp_Click() {
-  if (!refuse_ninth_component()) take_pending_component();
 }
 
 bool frmMaindb::refuse_ninth_component() {

@@ -2,9 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdint>
-#include <string_view>
-#include <utility>
 
 namespace db {
 namespace {

@@ -66,10 +66,4 @@ bool is_longer_formatted(std::string_view text) {
   return point != whole || !std::string_view(fraction, static_cast<std::size_t>(end - fraction)).starts_with("0000");
 }
 
-std::string numtext(double value) {
-  std::string text(value < 0 ? "" : " ");
-  append_number(text, value);
-  return text;
-}
-
 }  // namespace db

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <string_view>
 
 namespace db {
 
@@ -124,7 +123,6 @@ Listing list_species(file::System& system, const Database& open) {
     listing.opened = true;
     listing.leading = reader.read_leading(leading_by_name(open));
     listing.led = true;
-    listing.names.reserve(kMaxRecords);
     while (const Record* record = reader.next()) listing.names.emplace_back(record->name());
   } catch (const file::Error&) {
   }

@@ -1,6 +1,5 @@
 #include "ui/layout.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace ui {

@@ -2,7 +2,6 @@
 #include <QSettings>
 #include <cstdio>
 #include <cstdlib>
-#include <string>
 
 #include "ui/backend.h"
 #include "ui/qt/dialogs.h"

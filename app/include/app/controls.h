@@ -28,12 +28,11 @@ enum ControlId : int { KELMAR_CONTROLS(KELMAR_ONE, KELMAR_ROW) kControls };
 #undef KELMAR_ONE
 #undef KELMAR_ROW
 
-#define KELMAR_ONE(name)
-#define KELMAR_ROW(name) \
-  constexpr int name(int i) { return name##1 + i - 1; }  // i is 1 to kRows
-KELMAR_CONTROLS(KELMAR_ONE, KELMAR_ROW)
-#undef KELMAR_ONE
-#undef KELMAR_ROW
+// Those of a row, from 1 to kRows.
+constexpr int txtMBstoich(int row) { return txtMBstoich1 + row - 1; }
+constexpr int txtStoich(int row) { return txtStoich1 + row - 1; }
+constexpr int txtComp(int row) { return txtComp1 + row - 1; }
+constexpr int lblStoich(int row) { return lblStoich1 + row - 1; }
 
 const ui::WindowDef& window_def();
 

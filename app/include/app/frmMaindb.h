@@ -61,7 +61,9 @@ class frmMaindb final : public ui::Form {
   // One species (frmMaindb_species.cpp).
   void lstReactions_Click();
   void cmdAddnew_Click();
-  void cmdNextcomp_Click();
+  void cmdNextcomp_Click() {
+    if (!refuse_ninth_component()) take_pending_component();
+  }
   void cmdSuggest_Click();
   void numgenerator2();
   void Newspecdelete();
@@ -75,7 +77,9 @@ class frmMaindb final : public ui::Form {
   void set(int control, std::string text) { window_[control].text = std::move(text); }
   void show(std::initializer_list<int> controls) { set_shown(controls, true); }
   void hide(std::initializer_list<int> controls) { set_shown(controls, false); }
-  void set_shown(std::initializer_list<int> controls, bool shown);
+  void set_shown(std::initializer_list<int> controls, bool shown) {
+    for (const int control : controls) window_[control].shown = shown;
+  }
   void show_row(int i);
   void hide_rows();
   void empty_rows();

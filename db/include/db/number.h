@@ -33,6 +33,6 @@ inline bool is_formatted(std::string_view text) { return is_digit(text) || is_lo
 
 // A number as the window shows it: as in a file, with one blank in the place of a sign that is not there.
 // numtext(3) is " 3", numtext(-.25) is "-.25".
-std::string numtext(double value);
+inline std::string numtext(double value) { return (value < 0 ? "" : " ") + format_number(value); }
 
 }  // namespace db

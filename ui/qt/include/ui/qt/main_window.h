@@ -5,7 +5,6 @@
 #include <QApplication>
 #include <QMainWindow>
 #include <functional>
-#include <string_view>
 #include <vector>
 
 #include "ui/layout.h"
