@@ -3,11 +3,14 @@
 
 #include <QTimer>
 #include <memory>
+#include <optional>
 #include <string>
+#include <utility>
 
 #include "qt/qt_player.h"
 #include "support/memory_system.h"
 #include "support/text.h"
+#include "support/watched_system.h"
 #include "ui/backend.h"
 
 namespace {
@@ -18,12 +21,16 @@ const bool kWithoutDisplay = qputenv("QT_QPA_PLATFORM", "offscreen");
 TEST(Run, EndsWithTheFormAndItsStatus) {
   for (const bool starts : {true, false}) {
     support::MemorySystem system{{starts ? "dabase.txt" : "other.txt", "C"}};
-    char program[] = "kelmar-dbedit";
-    const int status = ui::run(program, [&](ui::Dialogs& dialogs) {
+    support::WatchedSystem watched(system);
+    watched.before = [starts, begun = false](const support::CallInfo&) mutable -> std::optional<support::Instead> {
+      if (std::exchange(begun, true)) return std::nullopt;
       if (!starts) QTimer::singleShot(0, [] { QApplication::activeModalWidget()->close(); });
       if (starts) QTimer::singleShot(100, [] { QApplication::closeAllWindows(); });
-      return std::make_unique<app::frmMaindb>(dialogs, system);
-    });
+      return std::nullopt;
+    };
+    char program[] = "kelmar-dbedit";
+    const int status =
+        ui::run(program, [&](ui::Dialogs& dialogs) { return std::make_unique<app::frmMaindb>(dialogs, watched); });
     EXPECT_EQ(status, starts ? 0 : 1);
   }
 }
