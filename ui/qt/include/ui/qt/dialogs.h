@@ -22,7 +22,6 @@ class QtDialogs final : public Dialogs {
                     buttons == Buttons::Ok ? QMessageBox::Ok : QMessageBox::Yes | QMessageBox::No, parent);
     box.setTextFormat(Qt::PlainText);
     box.setText(from_path(prompt));
-    box.setEscapeButton(QMessageBox::No);
     box.setDefaultButton(QMessageBox::No);  // every question is about data that would be gone
     if (box.exec() == QMessageBox::Yes) return Answer::Yes;
     return buttons == Buttons::Ok ? Answer::Ok : Answer::No;
