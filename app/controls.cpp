@@ -23,11 +23,9 @@ class Table {
 #define KELMAR_ROW(id) \
   for (int i = 1; i <= kRows; ++i) table_.push_back({.name = #id "(" + std::to_string(i) + ")"});
     KELMAR_CONTROLS(KELMAR_ONE, KELMAR_ROW)
-#undef KELMAR_ONE
-#undef KELMAR_ROW
     fill();
     adjust();
-    order();
+    number_tabs();
   }
   const std::vector<ControlDef>& all() const { return table_; }
 
@@ -127,7 +125,7 @@ class Table {
     at(Line1).drawn = {480, 5190, 8295, 0};
   }
 
-  void order() {
+  void number_tabs() {
     int tab = 0;
     for (const int control : {lstReactions, txtID, txtlogk, txtdhr, txtCharge, txtNocomp}) at(control).tab = tab++;
     for (int i = 1; i <= kRows; ++i)

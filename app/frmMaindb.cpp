@@ -1,5 +1,7 @@
 #include "app/frmMaindb.h"
 
+#include <new>
+
 #include "db/number.h"
 #include "db/species_reader.h"
 #include "edit/models.h"
@@ -15,10 +17,9 @@ constexpr std::string_view kComponentFilter = "Kelmar database files (*.MDB)|*.M
 }  // namespace
 
 std::string working_folder(std::string_view current_folder) {
-  if (current_folder == R"(C:\Program\Microsoft Visual Studio\VB98)" ||
-      current_folder == R"(C:\Program Files\Microsoft Visual Studio\VB98)")
-    return R"(c:\Program Files\kelmar)";
-  return std::string(current_folder);
+  const bool development = current_folder == R"(C:\Program\Microsoft Visual Studio\VB98)" ||
+                           current_folder == R"(C:\Program Files\Microsoft Visual Studio\VB98)";
+  return std::string(development ? R"(c:\Program Files\kelmar)" : current_folder);
 }
 
 frmMaindb::frmMaindb(ui::Dialogs& dialogs, file::System& system) : dialogs_(dialogs), system_(system) {
@@ -80,8 +81,7 @@ void frmMaindb::Form_Load() {
 
 // The path of the database. Whatever fails ends this in silence: the user can open one by the menu.
 std::string frmMaindb::take_hand_over(const std::string& folder, const std::string& drive) {
-  if (!drive.empty() && system_.change_drive(drive.front())) return "";
-  if (system_.change_folder(folder)) return "";
+  if ((!drive.empty() && system_.change_drive(drive.front())) || system_.change_folder(folder)) return "";
   state_.dialog_folder = folder;
   try {
     std::string path = db::first_field(system_, "sorptemp.dat");

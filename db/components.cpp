@@ -2,28 +2,27 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
+#include <utility>
 
 #include "db/field_reader.h"
 
 namespace db {
 namespace {
 
-struct Site {
-  double number;
-  std::string_view name;
-};
+using Site = std::pair<double, std::string_view>;
 constexpr Site kSites[] = {{812, "=SOH"}, {816, "=S3O"}, {811, "=SOHh"}};
 
 }  // namespace
 
 std::optional<std::string_view> site_name(double number) {
-  const auto* const site = std::ranges::find(kSites, number, &Site::number);
-  return site == std::end(kSites) ? std::nullopt : std::optional(site->name);
+  const auto* const site = std::ranges::find(kSites, number, &Site::first);
+  return site == std::end(kSites) ? std::nullopt : std::optional(site->second);
 }
 
 std::optional<double> site_number(std::string_view name) {
-  const auto* const site = std::ranges::find(kSites, name, &Site::name);
-  return site == std::end(kSites) ? std::nullopt : std::optional(site->number);
+  const auto* const site = std::ranges::find(kSites, name, &Site::second);
+  return site == std::end(kSites) ? std::nullopt : std::optional(site->first);
 }
 
 bool ComponentReader::next(Component& component) {

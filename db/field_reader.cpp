@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 
 namespace db {
 namespace {
@@ -19,7 +20,6 @@ constexpr auto kEndsField = table_of(",\r\n");
 constexpr auto kEndsQuotedText = table_of("\"\r\n");
 constexpr auto kBlank = table_of(" \t"), kNoBlank = table_of(" \t", false);
 constexpr auto kEmpty = table_of(" \t,\r\n");  // what fields without a value are made of
-constexpr std::ptrdiff_t kLongestPlain = kLongestText;
 constexpr const char* kTooLong = "a field is longer than 64 KiB";
 
 // The first character from `at` on that is none of a plain field. The comma and all that ends a field or needs a second
@@ -102,7 +102,7 @@ bool FieldReader::next(std::span<Field> fields) {
       at = end + 2;
     else if (quoted && *end == '"' && end[1] == ',')
       at = end + 2;
-    if (at == begin || end - begin > kLongestPlain) {
+    if (at == begin) {
       next_ = begin;
       if (!next_of_any_kind(field)) return false;
       at = next_;
@@ -129,6 +129,7 @@ bool FieldReader::next_of_any_kind(Field& field) {
     if (*at != '"') throw FieldError("a quoted text is not closed on its line");
   }
   const char* end = at;
+  field.text = {begin, end};  // a quoted one: a message may name it
   search(kEndsField);
   if (at - next_ > static_cast<std::ptrdiff_t>(kLongestField)) throw FieldError(kTooLong);
   if (!field.quoted)

@@ -7,11 +7,6 @@
 #include "edit/display.h"
 
 namespace edit {
-namespace {
-
-bool between(double n, double low, double high) { return n > low && n < high; }
-
-}  // namespace
 
 const std::vector<Model>& models() {
   static const std::vector<Model> kModels{
@@ -40,12 +35,13 @@ const Model& model(std::string_view name) {
 }
 
 bool is_offered(double n, std::string_view isomodel, bool cdbfile) {
+  const auto between = [n](double low, double high) { return n > low && n < high; };
   // Surface sites and their potentials belong to complexation, the isotherm sites from 1300 on to their model.
-  if (isomodel.empty() ? between(n, 1300, 1360) : between(n, 810, 860) || between(n, 1101, 1111)) return false;
+  if (isomodel.empty() ? between(1300, 1360) : between(810, 860) || between(1101, 1111)) return false;
   const Model& its = model(isomodel);
-  if (n > its.last_offered || between(n, 1300, its.first_offered)) return false;
+  if (n > its.last_offered || between(1300, its.first_offered)) return false;
 
-  if (n < 3 || between(n, 816, 859) || between(n, 1330, 1339) || (n >= 144 && n <= 149) || between(n, 916, 921) || n == 1104)
+  if (n < 3 || between(816, 859) || between(1330, 1339) || (n >= 144 && n <= 149) || between(916, 921) || n == 1104)
     return false;
   return cdbfile || !(n > 951 && n <= 1101);  // exchangers
 }

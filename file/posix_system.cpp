@@ -137,8 +137,8 @@ class PosixSystem final : public System {
   // counts. Who may only execute the file does not, and whose it is neither, as long as group and permissions are the same.
   std::error_code take_over(Handle handle, const std::string& path) override {
     const int fd = descriptor(handle);
-    struct stat like {
-    }, now{};
+    struct stat like {};
+    struct stat now {};
     if (::stat(path.c_str(), &like) != 0) return last_error();
     std::error_code error = make_error_code(std::errc::operation_not_permitted);
     if (::fchown(fd, like.st_uid, like.st_gid) != 0 && ::fchown(fd, static_cast<uid_t>(-1), like.st_gid) != 0)

@@ -1,9 +1,11 @@
 #include "account.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <optional>
+#include <string_view>
 #include <system_error>
 
 namespace fuzz {

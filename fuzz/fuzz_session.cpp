@@ -1,5 +1,6 @@
 // Any events on any files: the first byte chooses the kind of database; up to the first byte FF follow the events, one a
 // byte (session.h), up to the next FF the species database, then the component database.
+#include <algorithm>
 #include <iostream>
 #include <string>
 #include <string_view>

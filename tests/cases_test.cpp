@@ -11,6 +11,7 @@
 #include <map>
 #include <optional>
 #include <random>
+#include <span>
 #include <sstream>
 #include <string>
 #include <vector>

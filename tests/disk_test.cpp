@@ -363,7 +363,7 @@ class Script {
   std::string shown_of(player::Event event) {
     if (event.kind == player::Event::Kind::Load) {
       program_.emplace(watched_);
-      program_->dialogs.told = [this](const std::string& line) {
+      program_->dialogs.report = [this](const std::string& line) {
         program_->told.push_back(line);
         if (!asked_.empty()) play(std::exchange(asked_, ""));
       };

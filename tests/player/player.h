@@ -35,7 +35,7 @@ enum class Outcome { Done, Hidden, NoEntry };
 class Player {
  public:
   explicit Player(file::System& system) : form(dialogs, system) {
-    dialogs.told = [this](const std::string& line) { told.push_back(line); };
+    dialogs.report = [this](const std::string& line) { told.push_back(line); };
   }
   virtual ~Player() = default;
 

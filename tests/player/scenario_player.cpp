@@ -6,6 +6,6 @@
 // scenario_player [--echo] < script > transcript: see play_script().
 int main(int argc, char** argv) {
   player::Player player(file::system());
-  player.dialogs.told = [](const std::string& line) { std::cout << line << '\n'; };
+  player.dialogs.report = [](const std::string& line) { std::cout << line << '\n'; };
   return player::play_script(player, argc > 1 && argv[1] == std::string_view("--echo"));
 }

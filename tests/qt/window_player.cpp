@@ -18,9 +18,13 @@
 #include <QWheelEvent>
 #include <chrono>
 #include <iostream>
+#include <optional>
 #include <sstream>
+#include <string>
 #include <string_view>
 #include <thread>
+#include <utility>
+#include <vector>
 
 #include "qt/qt_player.h"
 #include "support/watched_system.h"
@@ -33,7 +37,7 @@ using player::QtPlayer;
 class CheckedPlayer final : public QtPlayer {
  public:
   explicit CheckedPlayer(support::WatchedSystem& disk) : QtPlayer(disk), disk_(disk) {
-    dialogs.told = [this](const std::string& line) {
+    dialogs.report = [this](const std::string& line) {
       std::cout << line << '\n';
       for (const std::string& event : std::exchange(asked_, {}))
         if (!play_other(event)) play(event);

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QTimer>
+#include <cmath>
 #include <memory>
 #include <optional>
 #include <string>

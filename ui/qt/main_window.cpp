@@ -101,6 +101,10 @@ void MainWindow::build(int control) {
         if (!running_) form_.window()[control].selected = entry;
         run(control);
       };
+      view.show_entries = [list](const Control& now) {
+        if (now.entries != list->entries()) list->show_entries(now.entries);
+        if (now.selected != list->selected()) list->show_selected(now.selected);
+      };
       view.widget = list;
       break;
     }
@@ -118,6 +122,9 @@ void MainWindow::build(int control) {
         box->show_text(text);
       };
       if (combo == nullptr) break;
+      view.show_entries = [combo, &shown = view.shown](const Control& now) {
+        if (now.entries != shown.entries) combo->show_entries(shown.entries = now.entries);
+      };
       view.widget = combo;
       connect(combo, &QComboBox::activated, this, [this, control](int entry) {
         Control& value = form_.window()[control];
@@ -179,13 +186,8 @@ void MainWindow::push() {
   pushing_ = true;
   for (int i = 0; i < controls(); ++i) {
     const Control& now = form_.window()[i];
-    auto& [widget, action, show_text, before] = views_[static_cast<std::size_t>(i)];
-    if (auto* list = dynamic_cast<EntryList*>(widget)) {
-      if (now.entries != list->entries()) list->show_entries(now.entries);
-      if (now.selected != list->selected()) list->show_selected(now.selected);
-    } else if (auto* combo = dynamic_cast<PickBox*>(widget); combo != nullptr && now.entries != before.entries) {
-      combo->show_entries(before.entries = now.entries);
-    }
+    auto& [widget, action, show_text, show_entries, before] = views_[static_cast<std::size_t>(i)];
+    show_entries(now);
     if (now.text != before.text) show_text(def(i).path ? from_path(now.text) : from_bytes(now.text));
     before.text = now.text;
     if (widget != nullptr) widget->setVisible(now.shown);

@@ -23,7 +23,7 @@ inline constexpr int kRows = 8;  // component rows
 // clang-format on
 
 #define KELMAR_ONE(name) name,
-#define KELMAR_ROW(name) name##1, name##8 = name##1 + kRows - 1,
+#define KELMAR_ROW(name) name##1, name##Last = name##1 + kRows - 1,
 enum ControlId : int { KELMAR_CONTROLS(KELMAR_ONE, KELMAR_ROW) kControls };
 #undef KELMAR_ONE
 #undef KELMAR_ROW

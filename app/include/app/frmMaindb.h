@@ -3,6 +3,7 @@
 // The names are those under which the program has always been documented: control, underscore, event.
 #pragma once
 
+#include <initializer_list>
 #include <optional>
 #include <string>
 #include <string_view>

@@ -67,8 +67,9 @@ class FieldReader {
 
  private:
   static constexpr std::size_t kBlock = 32 * 1024;  // bytes read at a time
-  static constexpr int kMovedPart = 16;             // of what was read at most a 16th is moved
-  static constexpr std::size_t kMostFields = 64;    // between two calls of forget(), each as long as can be
+  static_assert(kBlock + kByteOrderMark.size() < kLongestText, "a field that has been read whole may be too long");
+  static constexpr int kMovedPart = 16;           // of what was read at most a 16th is moved
+  static constexpr std::size_t kMostFields = 64;  // between two calls of forget(), each as long as can be
   // Of it only what is read into takes memory.
   static constexpr std::size_t kRoom = kMostFields * (kLongestField + kLineEnd.size()) + (kMovedPart + 2) * kBlock;
 

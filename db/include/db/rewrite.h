@@ -15,7 +15,7 @@ class LineWriter {
  public:
   explicit LineWriter(std::string& out) : out_(out) {}
   LineWriter& number(double value);
-  LineWriter& text(std::string_view value);  // in double quotes, unless it holds one
+  LineWriter& text(std::string_view value);  // in double quotes, unless it holds one or is too long
   // A field as read, {} for an empty one: its type stays, a number takes the form of this writer (1.50 becomes 1.5).
   LineWriter& field(const Field& field);
   void end() { out_ += kLineEnd; }

@@ -18,7 +18,7 @@ double number_rule(std::string_view text);
 // The same after the first comma, if any, has become a point: "1,234,5" is 1.234.
 double comma_number(std::string_view text);
 
-// The two to four lines of the record of a species, from the texts of the window. Texts that are no number count as 0. The
+// The lines of the record of a species, from the texts of the window. Texts that are no number count as 0. The
 // number of a component is the fixed one of a surface site, for "#9999" the number after the sign, else that of the
 // component database, which is read once, and only when a row holds more than a surface site; any other name leaves an empty
 // field. Throws file::Refusal for what no reader would read back (more components than the window has rows, a quote in the

@@ -31,7 +31,8 @@ class MainWindow : public QMainWindow {
     QWidget* widget = nullptr;
     QAction* action = nullptr;
     std::function<void(const QString&)> show_text = [](const QString&) {};
-    Control shown{};  // what was shown last; the entries of a list are with its widget
+    std::function<void(const Control&)> show_entries = [](const Control&) {};
+    Control shown{};  // its text when it was shown last, and a combo box's entries
   };
 
   void build(int control);
