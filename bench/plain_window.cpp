@@ -19,7 +19,7 @@ namespace {
 // Pixels of a twip: the window becomes as large as the program makes it with the usual letters, 796 by 681 pixels.
 const QTransform kScale = QTransform::fromScale(1 / 11.51, 1 / 12.01);
 
-QString text_of(const ui::ControlDef& def) { return QString::fromLatin1(def.caption.data(), def.caption.size()); }
+QString text_of(const ui::ControlDef& def) { return QString::fromLatin1(def.caption); }
 
 QColor color_of(const ui::Color& color) { return {color.red, color.green, color.blue}; }
 
@@ -64,8 +64,8 @@ int main(int argc, char** argv) {
   const QApplication application(argc, argv);
   const ui::WindowDef& def = app::window_def();
   QMainWindow window;
-  window.setWindowTitle(QString::fromLatin1(def.caption.data(), def.caption.size()));
-  QMenu* menu = window.menuBar()->addMenu(QString::fromLatin1(def.menu.data(), def.menu.size()));
+  window.setWindowTitle(QString::fromLatin1(def.caption));
+  QMenu* menu = window.menuBar()->addMenu(QString::fromLatin1(def.menu));
   auto* area = new QWidget;
   QPalette palette = area->palette();
   palette.setColor(QPalette::Window, color_of(def.background));
