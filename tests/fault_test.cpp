@@ -31,6 +31,11 @@ int allocations_left = -1;  // until one fails; -1: none does
   if (void* const memory = std::malloc(size > 0 ? size : 1)) return memory;
   throw std::bad_alloc();
 }
+[[gnu::noinline]] void* operator new(std::size_t size, const std::nothrow_t&) noexcept try {
+  return operator new(size);
+} catch (const std::bad_alloc&) {
+  return nullptr;
+}
 [[gnu::noinline]] void operator delete(void* memory) noexcept { std::free(memory); }
 [[gnu::noinline]] void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
 
