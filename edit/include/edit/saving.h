@@ -18,11 +18,12 @@ double number_rule(std::string_view text);
 // The same after the first comma, if any, has become a point: "1,234,5" is 1.234.
 double comma_number(std::string_view text);
 
-// The lines of the record of a species, from the texts of the window. Texts that are no number count as 0. The
-// number of a component is the fixed one of a surface site, for "#9999" the number after the sign, else that of the
-// component database, which is read once, and only when a row holds more than a surface site; any other name leaves an empty
-// field. Throws file::Refusal for what no reader would read back (more components than the window has rows, a quote in the
-// name, an ID number of 0), for numbers that a file cannot hold, and when the component database cannot be read.
+// The lines of the record of a species, from the texts of the window, with a row for each of its components at least. Texts
+// that are no number count as 0. The number of a component is the fixed one of a surface site, for "#9999" the number after
+// the sign, else that of the component database, which is read once, and only when a row holds more than a surface site; any
+// other name leaves an empty field. Throws file::Refusal for what no reader would read back (more components than the window
+// has rows, a quote in the name, an ID number of 0), for numbers that a file cannot hold, and when the component database
+// cannot be read.
 std::string species_record(file::System& system, const db::Database& open, const Entry& entry);
 
 // Each rewrites the database in one step, or throws file::Refusal or file::Error and leaves it as it was. What it returns
