@@ -98,9 +98,7 @@ bool FieldReader::next(std::span<Field> fields) {
     if (quoted) end = find(kEndsQuotedText, begin + 1);
     if (*end == ',')
       at = end + 1;
-    else if (*end == '\r' && end[1] == '\n' && end + 1 != end_ && !quoted)
-      at = end + 2;
-    else if (quoted && *end == '"' && end[1] == ',')
+    else if (quoted ? *end == '"' && end[1] == ',' : *end == '\r' && end[1] == '\n' && end + 1 != end_)
       at = end + 2;
     if (at == begin) {
       next_ = begin;
