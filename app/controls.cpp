@@ -16,21 +16,18 @@ constexpr Font kRegular{}, kBold{0, true, false}, kItalic{0, false, true}, kLarg
 constexpr bool kShown = true, kHidden = false;
 constexpr int kRowHeight = 240, kEdge = 15;  // boxes above one another share an edge
 
-class Table {
- public:
+struct Table {
   Table() {
-#define KELMAR_ONE(id) table_.push_back({.name = #id});
+#define KELMAR_ONE(id) controls.push_back({.name = #id});
 #define KELMAR_ROW(id) \
-  for (int i = 1; i <= kRows; ++i) table_.push_back({.name = #id "(" + std::to_string(i) + ")"});
+  for (int i = 1; i <= kRows; ++i) controls.push_back({.name = #id "(" + std::to_string(i) + ")"});
     KELMAR_CONTROLS(KELMAR_ONE, KELMAR_ROW)
     fill();
     adjust();
     number_tabs();
   }
-  const std::vector<ControlDef>& all() const { return table_; }
 
- private:
-  ControlDef& at(int control) { return table_[static_cast<std::size_t>(control)]; }
+  ControlDef& at(int control) { return controls[static_cast<std::size_t>(control)]; }
 
   ControlDef& put(int control, Kind kind, std::string caption, bool shown, Place place, Font font) {
     at(control).kind = kind;
@@ -114,7 +111,7 @@ class Table {
   // To the eye: boxes of one height, in a row with the buttons beside them; no label at the edge of a box; the line just
   // beneath the buttons, as wide as all of them.
   void adjust() {
-    for (ControlDef& control : table_) {
+    for (ControlDef& control : controls) {
       control.drawn = control.place;
       if (control.kind == Kind::TextBox) control.drawn.height = kRowHeight + kEdge;
     }
@@ -135,7 +132,7 @@ class Table {
       at(control).tab = tab++;
   }
 
-  std::vector<ControlDef> table_;
+  std::vector<ControlDef> controls;
 };
 
 }  // namespace
@@ -151,7 +148,7 @@ const ui::WindowDef& window_def() {
       .points = 8.25,
       .background = {255, 255, 192},
       .menu = "File",
-      .controls = table.all(),
+      .controls = table.controls,
   };
   return def;
 }

@@ -52,7 +52,6 @@ void frmMaindb::click(int control) {
     case mnuFileOpen: return run(&frmMaindb::mnuFileOpen_Click);
     case mnuFileExit: return run(&frmMaindb::mnuFileExit_Click);
     case cmdQuit: return run(&frmMaindb::cmdQuit_Click);
-    default: return;
   }
 }
 
@@ -124,7 +123,8 @@ void frmMaindb::Listfill() {
   }
   if (!listing.led && db::leading_of(by_name) == db::Leading::Model) return;
   if (isotherm) {
-    show_model(listing.leading.model);
+    edit::put_in_force(state_.open, listing.leading.model);
+    show_model();
   } else if (state_.open.blifile()) {
     show({txtf50, lblIsoterm, lblKsel, txtKsel});
     set(lblIsoterm, "Critical f value");
@@ -134,13 +134,8 @@ void frmMaindb::Listfill() {
   list.entries = std::move(listing.names);
 }
 
-// The controls of an isotherm database; a model picked by the user goes before the one in the file.
-void frmMaindb::show_model(const std::string& model_in_file) {
-  state_.open.isomodel = model_in_file;
-  if (state_.open.isoselect.empty())
-    state_.open.isoselect = state_.open.isomodel;
-  else
-    state_.open.isomodel = state_.open.isoselect;
+// The controls of an isotherm database.
+void frmMaindb::show_model() {
   show({cboIsoterm, lblIsoterm});
   set(lblIsoterm, "Isotherm model");
   set(cboIsoterm, state_.open.isomodel);
@@ -150,7 +145,6 @@ void frmMaindb::show_model(const std::string& model_in_file) {
     hide({txtdhr, lbldhr, txtKsel, lblKsel});
   const edit::Model& model = edit::model(state_.open.isomodel);
   if (!model.logk_caption.empty()) set(lblLogk, std::string(model.logk_caption));
-  state_.open.mbfields = model.mb;
   set_shown({lblMA, lblMB, lblMBnote}, state_.open.mbfields);
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
+#include <utility>
 
 namespace db {
 namespace {
@@ -49,9 +50,11 @@ FieldReader::FieldReader(file::System& system, const std::string& path, const st
   if (std::string_view(next_, end_).starts_with(kByteOrderMark)) next_ += kByteOrderMark.size();
 }
 
-// What was not read yet moves to the front once it is little against what was.
-void FieldReader::forget() {
-  if (end_ - next_ > (next_ - bytes_.get()) / kMovedPart) return;
+// Room for a field of any length from next_ on, and for the block in which it ends. Where that is short, what was not read
+// yet moves to new memory; the old stays for the fields that point into it.
+void FieldReader::make_room() {
+  if (static_cast<std::size_t>(next_ - bytes_.get()) + kLongestField + 2 * kBlock < kRoom) return;
+  full_.push_back(std::exchange(bytes_, std::make_unique_for_overwrite<char[]>(kRoom)));
   end_ = std::copy(next_, end_ + 1, bytes_.get()) - 1;
   next_ = bytes_.get();
 }
@@ -77,8 +80,9 @@ bool FieldReader::only_blanks_left() const {
 // Reads on after the last byte, inside a field that is not too long yet; false at the end of the file.
 bool FieldReader::refill() {
   if (file_ended_) return false;
+  if (end_ - next_ > static_cast<std::ptrdiff_t>(kLongestField)) throw FieldError(kTooLong);
+  if (next_ == end_) make_room();
   const auto used = static_cast<std::size_t>(end_ - bytes_.get());
-  if (end_ - next_ > static_cast<std::ptrdiff_t>(kLongestField) || used + kBlock >= kRoom) throw FieldError(kTooLong);
   const std::size_t got = input_.read(offset_, &bytes_[used], kBlock);
   bytes_[used + got] = '\n';
   end_ += got;
@@ -114,6 +118,7 @@ bool FieldReader::next(std::span<Field> fields) {
 
 bool FieldReader::next_of_any_kind(Field& field) {
   if (at_end()) return false;
+  make_room();
   const char* at = next_;
   const auto search = [&](const Table& table) {
     do at = find(table, at);
@@ -136,8 +141,7 @@ bool FieldReader::next_of_any_kind(Field& field) {
 
   next_ = at;
   if (at == end_) return true;
-  const bool may_be_pair = *next_++ == '\r';
-  if (may_be_pair && !at_end() && *next_ == '\n') ++next_;
+  if (*next_++ == '\r' && !at_end() && *next_ == '\n') ++next_;
   return true;
 }
 

@@ -34,6 +34,12 @@ const Model& model(std::string_view name) {
   return found == models().end() ? kOther : *found;
 }
 
+void put_in_force(db::Database& open, const std::string& model_in_file) {
+  if (open.isoselect.empty()) open.isoselect = model_in_file;
+  open.isomodel = open.isoselect;
+  open.mbfields = model(open.isomodel).mb;
+}
+
 bool is_offered(double n, std::string_view isomodel, bool cdbfile) {
   const auto between = [n](double low, double high) { return n > low && n < high; };
   // Surface sites and their potentials belong to complexation, the isotherm sites from 1300 on to their model.

@@ -88,7 +88,7 @@ class frmMaindb final : public ui::Form {
   void remove_species(int entry);
   std::optional<std::string> selected_species() const;  // its text without blanks at the ends
   void open_database(std::string path);
-  void show_model(const std::string& model_in_file);
+  void show_model();
   void take_pending_component();
   void suggest_id();
   bool refuse_ninth_component();

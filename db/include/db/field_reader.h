@@ -9,6 +9,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "db/format.h"
 #include "db/number.h"
@@ -56,7 +57,7 @@ class FieldReader {
   // mark of old text editors. Forgets the fields read before.
   bool begin_record();
   // The fields read before are no longer needed, and their views end here.
-  void forget();
+  void forget() { full_.clear(); }
   // Reads the next fields; false when the file ends before the last of them. The views hold until forget(). Throws
   // FieldError for a quoted text that is not closed on its line or a field above the limit, and file::Error for a failed
   // read.
@@ -68,21 +69,20 @@ class FieldReader {
  private:
   static constexpr std::size_t kBlock = 32 * 1024;  // bytes read at a time
   static_assert(kBlock + kByteOrderMark.size() < kLongestText, "a field that has been read whole may be too long");
-  static constexpr int kMovedPart = 16;           // of what was read at most a 16th is moved
-  static constexpr std::size_t kMostFields = 64;  // between two calls of forget(), each as long as can be
-  // Of it only what is read into takes memory.
-  static constexpr std::size_t kRoom = kMostFields * (kLongestField + kLineEnd.size()) + (kMovedPart + 2) * kBlock;
+  static constexpr std::size_t kRoom = 4 * (kLongestField + 2 * kBlock);
 
+  void make_room();
   bool refill();
   bool at_end() { return next_ == end_ && !refill(); }
   bool only_blanks_left() const;
   bool next_of_any_kind(Field& field);
 
   file::Input input_;
-  std::unique_ptr<char[]> bytes_;  // a part of the file, and a line end after it that stops every search
-  const char* next_;               // the first byte that belongs to no field yet
-  const char* end_;                // after the last byte read
-  std::uint64_t offset_ = 0;       // of end_, in the file
+  std::vector<std::unique_ptr<char[]>> full_;  // that fields of this record point into
+  std::unique_ptr<char[]> bytes_;              // a part of the file, and a line end after it that stops every search
+  const char* next_;                           // the first byte that belongs to no field yet
+  const char* end_;                            // after the last byte read
+  std::uint64_t offset_ = 0;                   // of end_, in the file
   bool file_ended_ = false;
 };
 

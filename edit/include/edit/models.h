@@ -34,6 +34,9 @@ const std::vector<Model>& models();
 // The model of this name; for any other name one without a caption and with all components.
 const Model& model(std::string_view name);
 
+// Puts a model in force: the one picked by the user, if any, before that of the file, which counts as picked then.
+void put_in_force(db::Database& open, const std::string& model_in_file);
+
 // Whether the component with this number is offered.
 bool is_offered(double number, std::string_view isomodel, bool cdbfile);
 
