@@ -60,10 +60,10 @@ void frmMaindb::Form_Load() {
   std::string folder, drive;
   try {
     if (const auto error = system_.current_folder(folder))
-      throw file::Error("there is no current folder: " + error.message() + ".");
+      throw file::Error("there is no current folder: " + file::reason(error) + ".");
     folder = working_folder(folder);
     if (const auto error = system_.change_folder(folder))
-      throw file::Error("the folder cannot be entered: " + error.message() + ".");
+      throw file::Error("the folder cannot be entered: " + file::reason(error) + ".");
     drive = db::first_field(system_, "dabase.txt");
   } catch (const file::Error& error) {
     refuse("The editor cannot start" + (folder.empty() ? "" : " in " + file::named(folder)) + ": " + error.what() +
@@ -83,7 +83,7 @@ std::string frmMaindb::take_hand_over(const std::string& folder, const std::stri
   if ((!drive.empty() && system_.change_drive(drive.front())) || system_.change_folder(folder)) return "";
   state_.dialog_folder = folder;
   try {
-    std::string path = db::first_field(system_, "sorptemp.dat");
+    std::string path = system_.path_in_file(db::first_field(system_, "sorptemp.dat"));
     system_.remove("sorptemp.dat");  // or it would be read again at the next start
     return path;
   } catch (const file::Error&) {

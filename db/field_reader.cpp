@@ -50,10 +50,10 @@ FieldReader::FieldReader(file::System& system, const std::string& path, const st
   if (std::string_view(next_, end_).starts_with(kByteOrderMark)) next_ += kByteOrderMark.size();
 }
 
-// Room for a field of any length from next_ on, and for the block in which it ends. Where that is short, what was not read
-// yet moves to new memory; the old stays for the fields that point into it.
+// Room for a field of any length from next_ on, and for the blocks in which it and its line end. Where that is short, what
+// was not read yet moves to new memory; the old stays for the fields that point into it.
 void FieldReader::make_room() {
-  if (static_cast<std::size_t>(next_ - bytes_.get()) + kLongestField + 2 * kBlock < kRoom) return;
+  if (static_cast<std::size_t>(next_ - bytes_.get()) + kLongestField + 3 * kBlock < kRoom) return;
   full_.push_back(std::exchange(bytes_, std::make_unique_for_overwrite<char[]>(kRoom)));
   end_ = std::copy(next_, end_ + 1, bytes_.get()) - 1;
   next_ = bytes_.get();
@@ -81,7 +81,6 @@ bool FieldReader::only_blanks_left() const {
 bool FieldReader::refill() {
   if (file_ended_) return false;
   if (end_ - next_ > static_cast<std::ptrdiff_t>(kLongestField)) throw FieldError(kTooLong);
-  if (next_ == end_) make_room();
   const auto used = static_cast<std::size_t>(end_ - bytes_.get());
   const std::size_t got = input_.read(offset_, &bytes_[used], kBlock);
   bytes_[used + got] = '\n';

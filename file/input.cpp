@@ -1,6 +1,41 @@
 #include "file/input.h"
 
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
 namespace file {
+
+std::string reason(std::error_code error) {
+  static const std::pair<std::errc, const char*> kReasons[] = {
+      {std::errc::no_such_file_or_directory, "No such file or directory"},
+      {std::errc::not_a_directory, "Not a directory"},
+      {std::errc::is_a_directory, "Is a directory"},
+      {std::errc::file_exists, "File exists"},
+      {std::errc::permission_denied, "Permission denied"},
+      {std::errc::operation_not_permitted, "Operation not permitted"},
+      {std::errc::read_only_file_system, "Read-only file system"},
+      {std::errc::operation_would_block, "Another program has it open"},
+      {std::errc::device_or_resource_busy, "Device or resource busy"},
+      {std::errc::io_error, "Input/output error"},
+      {std::errc::no_space_on_device, "No space left on device"},
+      {std::errc::file_too_large, "File too large"},
+      {std::errc::not_enough_memory, "Cannot allocate memory"},
+      {std::errc::filename_too_long, "File name too long"},
+      {std::errc::invalid_argument, "Invalid argument"},
+      {std::errc::too_many_symbolic_link_levels, "Too many levels of symbolic links"},
+      {std::errc::cross_device_link, "Invalid cross-device link"},
+      {std::errc::too_many_files_open, "Too many open files"},
+      {std::errc::too_many_files_open_in_system, "Too many open files in system"},
+      {std::errc::bad_file_descriptor, "Bad file descriptor"},
+      {std::errc::no_such_device, "No such device"},
+      {std::errc::interrupted, "Interrupted system call"},
+      {std::errc::no_lock_available, "No locks available"},
+      {std::errc::not_supported, "Operation not supported"},
+      {std::errc::timed_out, "Connection timed out"}};
+  const auto known = std::ranges::find(kReasons, error, [](const auto& entry) { return make_error_code(entry.first); });
+  return known != std::end(kReasons) ? known->second : "error " + std::to_string(error.value()) + " of the system";
+}
 
 std::string named(std::string_view name) {
   constexpr std::size_t kLongest = 80, kHalf = kLongest / 2 - 2;
@@ -13,7 +48,7 @@ std::string named(std::string_view name) {
 
 std::string failure(std::string_view what, const std::string& path, std::error_code error) {
   return "cannot " + std::string(what) + " " + (path.empty() ? "a file without a name" : named(path)) + ": " +
-         error.message() + ".";
+         reason(error) + ".";
 }
 
 void require(std::error_code error, std::string_view what, const std::string& path) {

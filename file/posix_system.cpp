@@ -195,6 +195,12 @@ class PosixSystem final : public System {
     return error;
   }
 
+  std::error_code place_of(const std::string& path, std::string& place) override {
+    std::error_code error;
+    place = (std::filesystem::current_path(error) / path).lexically_normal().string();
+    return error;
+  }
+
   std::error_code rename(const std::string& from, const std::string& to) override {
     return checked(::rename(from.c_str(), to.c_str()));
   }
@@ -219,6 +225,8 @@ class PosixSystem final : public System {
   std::error_code change_folder(const std::string& folder) override { return checked(::chdir(folder.c_str())); }
 
   std::error_code change_drive(char) override { return {}; }
+
+  std::string path_in_file(const std::string& bytes) override { return bytes; }
 
   void pause(std::chrono::milliseconds time) override { std::this_thread::sleep_for(time); }
 };

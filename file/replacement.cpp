@@ -1,7 +1,6 @@
 #include "file/replacement.h"
 
 #include <chrono>
-#include <filesystem>
 #include <new>
 #include <utility>
 
@@ -51,10 +50,10 @@ bool patiently(System& system, Attempt attempt) {
 bool same_place(System& system, const std::string& one, const std::string& other) {
   const Status ours = look_at(system, one, Follow::Links), theirs = look_at(system, other, Follow::Links);
   if (ours.type != Type::Missing || theirs.type != Type::Missing) return ours.same_file(theirs);
-  std::string folder;
-  require(system.current_folder(folder), "find", one);
-  const auto place = [&](const std::string& path) { return (std::filesystem::path(folder) / path).lexically_normal(); };
-  return place(one) == place(other);
+  std::string our_place, their_place;
+  require(system.place_of(one, our_place), "find", one);
+  require(system.place_of(other, their_place), "find", other);
+  return our_place == their_place;
 }
 
 void refuse_spared(System& system, const std::string& target, const Spared& spared) {
@@ -91,7 +90,7 @@ bool TemporaryFile::claim(Access access) {
   if (present.type == Type::Plain && !remove_leftover()) return false;
 
   const auto created = uninterrupted([&] { return system_.create_new(path_, access, writer_.handle()); });
-  if (created == std::errc::file_exists) return false;
+  if (created == std::errc::file_exists || created == std::errc::operation_would_block) return false;
   require(created, "create", path_);
   ours_ = true;
   require(system_.status(writer_.get(), created_), "look at", path_);
@@ -110,8 +109,8 @@ bool TemporaryFile::claim(Access access) {
 bool TemporaryFile::remove_leftover() {
   OpenFile leftover(system_);
   auto error = uninterrupted([&] { return system_.exclude_others(path_, leftover.handle()); });
-  if (error == std::errc::operation_would_block) return false;
   if (!error || error == std::errc::not_supported) error = uninterrupted([&] { return system_.remove(path_); });
+  if (error == std::errc::operation_would_block) return false;
   if (const std::string owner = is_denied(error) ? system_.owner_of(path_) : ""; !owner.empty())
     throw Refusal(named(path_) + " belongs to " + owner +
                   ", whose saving in this folder is not done or was interrupted. Try " +
@@ -208,6 +207,18 @@ void Replacement::exclude_others() {
 
 std::error_code Replacement::try_rename(std::string_view content) {
   temporary_->write(content, before_.type == Type::Missing ? nullptr : &target_);
+  std::error_code error;
+  const bool done = patiently(system_, [&] {
+    error = rename();
+    return error != std::errc::operation_would_block;
+  });
+  if (!done)
+    throw Refusal(named(name_) + ", or the temporary file of its new content, is open in another program. Close it there " +
+                  "and try again.");
+  return error;
+}
+
+std::error_code Replacement::rename() {
   // Another program, which knows nothing of this one, may have changed the database since it was read, or a link to it.
   if (!look_at(system_, name_, Follow::Links).same_content(before_))
     throw Refusal(named(name_) + " was changed by another program while it was being saved, and is left as that made it. " +

@@ -141,7 +141,7 @@ class Script {
     for (std::size_t at = 0; (at = text.find(old, at)) != text.npos; at += fresh.size()) text.replace(at, old.size(), fresh);
   }
   static unsigned number(Text text, int base = 10) { return static_cast<unsigned>(std::stoul(text, nullptr, base)); }
-  static std::string said(std::error_code error) { return error ? error.message() : ""; }
+  static std::string said(std::error_code error) { return error ? file::reason(error) : ""; }
   template <typename Action>
   static std::string told(Action action) {
     try {

@@ -194,7 +194,7 @@ TEST(Fault, CostsNoRecord) {
                    std::to_string(fault.nth) + ": " +
                    (fault.of_memory      ? "memory"
                     : fault.instead.half ? "half"
-                                         : fault.instead.error.message()) +
+                                         : file::reason(fault.instead.error)) +
                    (fault.for_ever ? " for ever" : ""));
       Attempt attempt(operation);
       if (!attempt.run(fault)) return false;

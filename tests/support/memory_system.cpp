@@ -159,6 +159,11 @@ std::error_code MemorySystem::without_links(const std::string& path, std::string
   return files_.count(real) > 0 ? std::error_code() : failed(std::errc::no_such_file_or_directory);
 }
 
+std::error_code MemorySystem::place_of(const std::string& path, std::string& place) {
+  place = absolute(path);
+  return {};
+}
+
 std::error_code MemorySystem::rename(const std::string& from, const std::string& to) {
   const std::string source = absolute(from), target = absolute(to);
   const Folder *left = folder_of(source), *entered = folder_of(target);

@@ -71,12 +71,14 @@ class MemorySystem : public file::System {
   std::error_code status(file::Handle handle, file::Status& status) override;
   std::string owner_of(const std::string& path) override { return at(path).owner; }
   std::error_code without_links(const std::string& path, std::string& real) override;
+  std::error_code place_of(const std::string& path, std::string& place) override;
   std::error_code rename(const std::string& from, const std::string& to) override;
   std::error_code remove(const std::string& path) override;
   std::error_code flush_folder_of(const std::string&) override { return {}; }
   std::error_code current_folder(std::string& folder) override { return folder = current_, std::error_code(); }
   std::error_code change_folder(const std::string& folder) override;
   std::error_code change_drive(char) override { return {}; }
+  std::string path_in_file(const std::string& bytes) override { return bytes; }
   void pause(std::chrono::milliseconds) override { meanwhile(); }
 
  private:

@@ -14,12 +14,12 @@ namespace support {
 
 // clang-format off
 enum class Call {
-  OpenRead, CreateNew, ExcludeOthers, Read, Write, Flush, Close, StatusOfPath, StatusOfHandle, TakeOver, WithoutLinks, Rename,
-  Remove, FlushFolder, CurrentFolder, ChangeFolder, ChangeDrive, kCount
+  OpenRead, CreateNew, ExcludeOthers, Read, Write, Flush, Close, StatusOfPath, StatusOfHandle, TakeOver, WithoutLinks, PlaceOf,
+  Rename, Remove, FlushFolder, CurrentFolder, ChangeFolder, ChangeDrive, kCount
 };
 inline constexpr std::string_view kCallNames[] = {
   "open_read", "create_new", "exclude_others", "read", "write", "flush", "close", "status", "status_of_handle", "take_over",
-  "without_links", "rename", "remove", "flush_folder_of", "current_folder", "change_folder", "change_drive"
+  "without_links", "place_of", "rename", "remove", "flush_folder_of", "current_folder", "change_folder", "change_drive"
 };
 // clang-format on
 static_assert(std::size(kCallNames) == static_cast<std::size_t>(Call::kCount));
@@ -89,12 +89,16 @@ class WatchedSystem final : public file::System {
   Error without_links(Path path, std::string& real) override {
     return pass({Call::WithoutLinks, path}, &System::without_links, path, real);
   }
+  Error place_of(Path path, std::string& place) override {
+    return pass({Call::PlaceOf, path}, &System::place_of, path, place);
+  }
   Error rename(Path from, Path to) override { return pass({Call::Rename, from, to}, &System::rename, from, to); }
   Error remove(Path path) override { return pass({Call::Remove, path}, &System::remove, path); }
   Error flush_folder_of(Path path) override { return pass({Call::FlushFolder, path}, &System::flush_folder_of, path); }
   Error current_folder(std::string& folder) override { return pass({Call::CurrentFolder}, &System::current_folder, folder); }
   Error change_folder(Path folder) override { return pass({Call::ChangeFolder, folder}, &System::change_folder, folder); }
   Error change_drive(char letter) override { return pass({Call::ChangeDrive}, &System::change_drive, letter); }
+  std::string path_in_file(const std::string& bytes) override { return inner_.path_in_file(bytes); }
   void pause(std::chrono::milliseconds time) override { inner_.pause(time); }
 
  private:

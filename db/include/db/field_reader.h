@@ -65,6 +65,7 @@ class FieldReader {
   bool next(Field& field) { return next(std::span(&field, 1)); }
 
   const std::string& name() const { return input_.name(); }
+  void close() { input_.close(); }
 
  private:
   static constexpr std::size_t kBlock = 32 * 1024;  // bytes read at a time

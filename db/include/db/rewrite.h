@@ -60,7 +60,11 @@ class Rewrite {
   const std::string& content();
   // Puts the content in the place of the file. Throws as content(), and file::Error when the file cannot be replaced; it
   // then is as it was. Returns what the user has to be told of a success.
-  [[nodiscard]] std::optional<std::string> commit() { return replacement_.commit(content()); }
+  [[nodiscard]] std::optional<std::string> commit() {
+    const std::string& whole = content();
+    reader_.close();
+    return replacement_.commit(whole);
+  }
 
  private:
   [[noreturn]] void refuse_kind(const std::string& sign) const;

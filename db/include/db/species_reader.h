@@ -55,6 +55,8 @@ class SpeciesReader {
   // more than kMaxPairs pairs, or text in place of a number of pairs is an error.
   const Record* next();
   End end() const { return end_; }
+  // Before the database is replaced: nothing can be read after it.
+  void close() { fields_.close(); }
   // At the end of the list: whether an empty ID number has ended it and more stands after that than an end marker and its
   // trailer. Reads on to the end of the file.
   bool hides_more();

@@ -28,6 +28,9 @@ class Refusal : public Error {
 // a blank, so that no message grows beyond the screen.
 std::string named(std::string_view name);
 
+// Why a call failed, in the program's own words: the same on every system.
+std::string reason(std::error_code error);
+
 // Throws Error when there is an error: "cannot read x.mdb: Input/output error."
 void require(std::error_code error, std::string_view what, const std::string& path);
 std::string failure(std::string_view what, const std::string& path, std::error_code error);
@@ -42,6 +45,8 @@ class Input {
   // tried.
   std::size_t read(std::uint64_t offset, char* bytes, std::size_t size, std::string_view what = "read") const;
   const std::string& name() const { return name_; }
+  // Before the object's end, for a file that is to be replaced.
+  void close() { file_.close(); }
 
  private:
   System& system_;

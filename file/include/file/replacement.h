@@ -88,6 +88,7 @@ class Replacement {
   // What the target has (permissions, an access list) the file system of the temporary file may not even know.
   bool is_far() const { return before_.type == Type::Plain && !temporary_->created().same_device(before_); }
   std::error_code try_rename(std::string_view content);
+  std::error_code rename();
 
   System& system_;
   Spared spared_;

@@ -1,6 +1,6 @@
 // What the program asks of the operating system's files: one method a call, so that a test can make each one fail.
-// Paths are bytes as the system takes them. Every method reports its failure as an error code and throws nothing; what a
-// failure means is the caller's business (see input.h for reading and replacement.h for replacing a file).
+// Paths are bytes as the system takes them, on Windows UTF-8. Every method reports its failure as an error code and throws
+// nothing; what a failure means is the caller's business (see input.h for reading and replacement.h for replacing a file).
 // Rejected: std::filesystem and streams for all of it. They cannot flush to the disk, create a file exclusively, lock it, or
 // say that a write came back short.
 #pragma once
@@ -69,12 +69,15 @@ class System {
 
   virtual std::error_code status(const std::string& path, Follow follow, Status& status) = 0;
   virtual std::error_code status(Handle handle, Status& status) = 0;
-  // The name of the user whose file it is; nothing for a file of this user.
+  // The name of the user whose file it is; nothing for a file of this user, and where the system does not tell.
   virtual std::string owner_of(const std::string& path) = 0;
   // The path of an existing file without links.
   virtual std::error_code without_links(const std::string& path, std::string& real) = 0;
+  // Where a file of this name lies or would lie: the same for every name of that place, as far as names tell.
+  virtual std::error_code place_of(const std::string& path, std::string& place) = 0;
 
-  // In one step: before it `to` names the old file, if any, after it the new one.
+  // In one step: before it `to` names the old file, if any, after it the new one. errc::operation_would_block while another
+  // program has one of the two open, on a system where that matters.
   virtual std::error_code rename(const std::string& from, const std::string& to) = 0;
   virtual std::error_code remove(const std::string& path) = 0;
   // Returns when the names in the folder of `path` are on the disk.
@@ -84,6 +87,8 @@ class System {
   virtual std::error_code change_folder(const std::string& folder) = 0;
   // Makes a drive the current one; does nothing on a system without drives.
   virtual std::error_code change_drive(char letter) = 0;
+  // A path as another program wrote it into a text file.
+  virtual std::string path_in_file(const std::string& bytes) = 0;
   virtual void pause(std::chrono::milliseconds time) = 0;
 };
 
