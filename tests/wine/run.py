@@ -98,6 +98,9 @@ def prepare():
 
 def run(command, cwd=None, stdin=subprocess.DEVNULL, limit=LIMIT):
     """Exit status, output, errors of a program and its arguments. Throws WineFailed."""
+    with open(command[0], "rb") as program:  # another one wine starts and does not wait for
+        if program.read(2) != b"MZ":
+            sys.exit("%s is no program for Windows" % command[0])
     prepare()
     return attempt(["wine", *command], cwd, stdin, limit)
 
