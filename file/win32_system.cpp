@@ -374,15 +374,15 @@ class Win32System final : public System {
 
   // ReplaceFile would have a moment without the name, a copy one with half the content.
   std::error_code rename(const std::string& from, const std::string& to) override {
-    constexpr DWORD kHow = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
-    if (::MoveFileExW(prefixed(wide(from)).c_str(), prefixed(wide(to)).c_str(), kHow)) return {};
+    constexpr DWORD kInOneStep = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
+    if (::MoveFileExW(prefixed(wide(from)).c_str(), prefixed(wide(to)).c_str(), kInOneStep)) return {};
     const auto error = last_error();
-    // A target that another program has open, if only to look at it, is refused with the same error as one that must not be
-    // replaced.
+    if (error != std::errc::permission_denied) return error;
+    // A target that another program has open, be it only to look at it, is refused with the same error as a folder that is
+    // closed. Where the rights are there, it is that.
     Status present;
-    const bool open_elsewhere = error == std::errc::permission_denied && !status(to, Follow::Nothing, present) &&
-                                present.writable && present.replaceable;
-    return open_elsewhere ? make_error_code(std::errc::operation_would_block) : error;
+    const bool in_use = !status(to, Follow::Nothing, present) && present.writable && present.replaceable;
+    return in_use ? make_error_code(std::errc::operation_would_block) : error;
   }
 
   std::error_code remove(const std::string& path) override { return checked(::DeleteFileW(prefixed(wide(path)).c_str())); }

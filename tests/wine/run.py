@@ -46,9 +46,10 @@ def attempt(command, cwd, stdin, limit):
         try:
             status = process.wait(limit)
         except subprocess.TimeoutExpired:
-            os.killpg(process.pid, signal.SIGKILL)
-            process.wait()
             raise WineFailed("no end within %d s: %s" % (limit, " ".join(command)))
+        finally:
+            process.kill()  # and not its group, in which may be services that other programs need
+            process.wait()
         out.seek(0)
         err.seek(0)
         told, complaints = out.read(), err.read()
@@ -108,6 +109,7 @@ def run(command, cwd=None, stdin=subprocess.DEVNULL, limit=LIMIT):
 def main():
     if sys.argv[1:] == ["--prepare"]:
         return prepare()
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))  # takes the program with it
     stdin = sys.stdin if sys.stdin and stat.S_ISREG(os.fstat(0).st_mode) else subprocess.DEVNULL
     try:
         status, out, err = twice(lambda: run(sys.argv[1:], stdin=stdin))

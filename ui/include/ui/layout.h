@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <functional>
 #include <string_view>
+#include <vector>
 
 #include "ui/window.h"
 
@@ -27,6 +28,9 @@ class Layout {
   double font_factor(Size area) const { return fitting_ * growth(area); }
   // The same for a control's place, in pixels; `window` tells which boxes are shown.
   Place place(int control, const Window& window, Size area) const;
+  // The same for all controls, for a toolkit whose widgets must not overlap: where a place lies over another, the lower one
+  // is cut. Labels and lines lie below the rest, later controls above earlier ones.
+  std::vector<Place> places(const Window& window, Size area) const;
 
  private:
   // Since the start.

@@ -1,0 +1,609 @@
+#include "ui/win32/main_window.h"
+
+#include <initguid.h>
+// After it: defines the system's identifiers that follow.
+#include <oleacc.h>
+
+#include <cmath>
+#include <iterator>
+#include <utility>
+
+#include "ui/win32/text.h"
+
+namespace ui::win32 {
+namespace {
+
+constexpr const wchar_t* kClass = L"KelmarDatabaseEditor";
+constexpr const wchar_t* kFace = L"Microsoft Sans Serif";
+constexpr DWORD kStyle = WS_OVERLAPPEDWINDOW;
+constexpr int kUsualDpi = USER_DEFAULT_SCREEN_DPI;
+constexpr int kScales[] = {96, 120, 144, 168, 192};  // dots an inch at which captions are measured
+constexpr double kSmallest = .6;                     // of the size at the start
+constexpr int kFirstId = 100;                        // of the controls: above those that the system knows
+constexpr int kPickRows = 10;                        // of an open combo box
+constexpr int kTextMargin = 6;                       // pixels beside the text of a box
+constexpr int kTipWidth = 600;
+
+int scaled(int value, double factor) { return static_cast<int>(std::ceil(value * factor)); }
+
+COLORREF color_of(const Color& color) {
+  return RGB(static_cast<BYTE>(color.red), static_cast<BYTE>(color.green), static_cast<BYTE>(color.blue));
+}
+
+HWND create_window(const WindowDef& def, HBRUSH background, WNDPROC procedure) {
+  const HINSTANCE program = ::GetModuleHandleW(nullptr);
+  WNDCLASSEXW kind{};
+  kind.cbSize = sizeof kind;
+  kind.lpfnWndProc = procedure;
+  kind.hInstance = program;
+  kind.hIcon = ::LoadIconW(program, MAKEINTRESOURCEW(1));
+  kind.hCursor = ::LoadCursorW(nullptr, MAKEINTRESOURCEW(32512));  // the arrow
+  kind.hbrBackground = background;
+  kind.lpszClassName = kClass;
+  ::RegisterClassExW(&kind);
+  return ::CreateWindowExW(WS_EX_CONTROLPARENT, kClass, from_bytes(def.caption).c_str(), kStyle, CW_USEDEFAULT,
+                           CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, nullptr, nullptr, program, nullptr);
+}
+
+// Of the screen on which a window lies, without what the desktop keeps for itself.
+RECT work_area(HWND window) {
+  MONITORINFO info{};
+  info.cbSize = sizeof info;
+  ::GetMonitorInfoW(::MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &info);
+  return info.rcWork;
+}
+
+// What is in the focus inside a combo box, and is asked for its text.
+HWND edit_of(HWND combo) {
+  COMBOBOXINFO info{};
+  info.cbSize = sizeof info;
+  return ::GetComboBoxInfo(combo, &info) ? info.hwndItem : nullptr;
+}
+
+// For as long as it lives, what to measure with a font.
+struct Measure {
+  explicit Measure(HFONT font) : before(::SelectObject(dc, font)) {}
+  ~Measure() {
+    ::SelectObject(dc, before);
+    ::ReleaseDC(nullptr, dc);
+  }
+  Measure(const Measure&) = delete;
+  Measure& operator=(const Measure&) = delete;
+
+  int width(const std::wstring& text) const {
+    SIZE size{};
+    ::GetTextExtentPoint32W(dc, text.c_str(), static_cast<int>(text.size()), &size);
+    return size.cx;
+  }
+  int line() const {
+    TEXTMETRICW metrics{};
+    ::GetTextMetricsW(dc, &metrics);
+    return metrics.tmHeight;
+  }
+
+  HDC dc = ::GetDC(nullptr);
+  HGDIOBJ before;
+};
+
+}  // namespace
+
+MainWindow::MainWindow(Form& form)
+    : form_(form),
+      background_(::CreateSolidBrush(color_of(form.definition().background))),
+      window_(create_window(form.definition(), background_, window_procedure)),
+      views_(form.definition().controls.size()),
+      layout_(
+          form.definition(), [this](const Font& font, std::string_view text) { return text_width(font, text); },
+          Measure(font_of({}, 1. * kUsualDpi / kPointsPerInch)).line(), available()) {
+  ::SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+  build_menu();
+  // One order is that of the focus and of what lies above what; and a label comes before its box, whose name it is to
+  // whoever knows no better.
+  std::map<int, int> by_tab;
+  for (int i = 0; i < controls(); ++i)
+    if (def(i).tab >= 0) by_tab[def(i).tab] = i;
+  for (const auto& [tab, control] : by_tab) {
+    if (const int label = def(control).label; label >= 0 && view(label).window == nullptr) build(label);
+    build(control);
+  }
+  for (int i = 0; i < controls(); ++i)
+    if (def(i).kind != Kind::MenuItem && view(i).window == nullptr) build(i);
+  build_tooltip();
+  ::CoCreateInstance(CLSID_AccPropServices, nullptr, CLSCTX_INPROC_SERVER, IID_IAccPropServices,
+                     reinterpret_cast<void**>(&names_));
+  focus_ = control(by_tab.begin()->second);
+}
+
+MainWindow::~MainWindow() {
+  if (::IsWindow(window_)) {
+    ::SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
+    ::DestroyWindow(window_);
+  }
+  if (names_ != nullptr) names_->Release();
+  for (const auto& [key, font] : fonts_) ::DeleteObject(font);
+  ::UnregisterClassW(kClass, ::GetModuleHandleW(nullptr));
+  ::DeleteObject(background_);
+}
+
+void MainWindow::build_menu() {
+  menu_ = ::CreatePopupMenu();
+  for (int i = 0; i < controls(); ++i)
+    if (def(i).kind == Kind::MenuItem)
+      ::AppendMenuW(menu_, MF_STRING, static_cast<UINT_PTR>(kFirstId + i), from_bytes(def(i).caption).c_str());
+  const HMENU bar = ::CreateMenu();
+  ::AppendMenuW(bar, MF_POPUP, reinterpret_cast<UINT_PTR>(menu_), (L"&" + from_bytes(form_.definition().menu)).c_str());
+  ::SetMenu(window_, bar);
+}
+
+void MainWindow::build(int control) {
+  const ControlDef& def = this->def(control);
+  // Each is a group of its own: arrow keys stay inside it.
+  constexpr DWORD kBox = WS_CHILD | WS_TABSTOP | WS_GROUP;
+  const wchar_t* kind = L"STATIC";
+  DWORD style = WS_CHILD | SS_NOPREFIX | SS_NOTIFY;  // so that there is a tooltip
+  switch (def.kind) {
+    case Kind::Label: style |= def.wraps ? SS_LEFT : SS_CENTERIMAGE | (def.path ? SS_PATHELLIPSIS : SS_ENDELLIPSIS); break;
+    case Kind::Line: style = WS_CHILD | SS_BLACKRECT; break;
+    case Kind::Button:
+      kind = L"BUTTON";
+      style = kBox | BS_PUSHBUTTON;
+      break;
+    case Kind::TextBox:
+      kind = L"EDIT";
+      style = kBox | WS_BORDER | ES_AUTOHSCROLL;
+      break;
+    case Kind::ListBox:
+      kind = L"LISTBOX";
+      style = kBox | WS_BORDER | WS_VSCROLL | WS_HSCROLL | LBS_NOINTEGRALHEIGHT;
+      break;
+    case Kind::ComboBox:
+      kind = L"COMBOBOX";
+      style = kBox | WS_VSCROLL | CBS_DROPDOWN | CBS_AUTOHSCROLL;
+      break;
+    case Kind::MenuItem: return;
+  }
+  HWND& built = view(control).window;
+  built = ::CreateWindowExW(0, kind, L"", style, 0, 0, 0, 0, window_,
+                            reinterpret_cast<HMENU>(static_cast<INT_PTR>(kFirstId + control)), ::GetModuleHandleW(nullptr),
+                            nullptr);
+  const auto self = reinterpret_cast<DWORD_PTR>(this);
+  if (def.kind == Kind::TextBox) ::SendMessageW(built, EM_SETLIMITTEXT, 0, 0);
+  if (def.kind == Kind::ComboBox) {
+    ::SendMessageW(built, CB_LIMITTEXT, 0, 0);
+    ::SendMessageW(built, CB_SETMINVISIBLE, kPickRows, 0);
+    ::SetWindowSubclass(edit_of(built), control_procedure, static_cast<UINT_PTR>(control), self);
+  }
+  if (def.kind == Kind::ListBox || def.kind == Kind::ComboBox)
+    ::SetWindowSubclass(built, control_procedure, static_cast<UINT_PTR>(control), self);
+}
+
+void MainWindow::build_tooltip() {
+  tooltip_ = ::CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, 0, 0, 0, 0,
+                               window_, nullptr, ::GetModuleHandleW(nullptr), nullptr);
+  ::SendMessageW(tooltip_, TTM_SETMAXTIPWIDTH, 0, kTipWidth);
+  for (const View& view : views_) {
+    if (view.window == nullptr) continue;
+    const HWND edit = edit_of(view.window);
+    TTTOOLINFOW tool{};
+    tool.cbSize = TTTOOLINFOW_V1_SIZE;
+    tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+    tool.hwnd = window_;
+    tool.uId = reinterpret_cast<UINT_PTR>(edit != nullptr ? edit : view.window);
+    tool.lpszText = LPSTR_TEXTCALLBACKW;
+    ::SendMessageW(tooltip_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+  }
+}
+
+// The text of a box or label of which not all is seen.
+void MainWindow::show_tip(NMTTDISPINFOW& asked) {
+  const auto owner = reinterpret_cast<HWND>(asked.hdr.idFrom);
+  const int control = control_of(owner);
+  tip_.clear();
+  if (control < 0 || def(control).wraps || def(control).kind == Kind::ListBox) return;
+  RECT inside{};
+  ::GetClientRect(owner, &inside);
+  const std::wstring text = text_of(owner);
+  const auto font = reinterpret_cast<HFONT>(::SendMessageW(owner, WM_GETFONT, 0, 0));
+  const int margin = def(control).kind == Kind::Label ? 0 : kTextMargin;
+  if (Measure(font).width(text) > inside.right - margin) tip_ = text;
+  asked.lpszText = tip_.data();
+}
+
+HFONT MainWindow::font_of(const Font& font, double pixels_per_point) {
+  const double points = font.points > 0 ? font.points : form_.definition().points;
+  const int height = std::max(1, static_cast<int>(points * pixels_per_point));
+  HFONT& made = fonts_[{height, font.bold, font.italic}];
+  if (made == nullptr)
+    made = ::CreateFontW(-height, 0, 0, 0, font.bold ? FW_BOLD : FW_NORMAL, font.italic, FALSE, FALSE, DEFAULT_CHARSET,
+                         OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, CLEARTYPE_QUALITY, DEFAULT_PITCH | FF_SWISS, kFace);
+  return made;
+}
+
+// The widest that comes out on any screen, in pixels of the usual one: the letters of small fonts are fitted to the pixels.
+double MainWindow::text_width(const Font& font, std::string_view text) {
+  double widest = 0;
+  for (const int dpi : kScales) {
+    const Measure measure(font_of(font, dpi / kPointsPerInch));
+    widest = std::max(widest, 1. * measure.width(from_bytes(text)) * kUsualDpi / dpi);
+  }
+  return widest;
+}
+
+Size MainWindow::area() const {
+  RECT inside{};
+  ::GetClientRect(window_, &inside);
+  return {inside.right, inside.bottom};
+}
+
+// The window around a client area.
+Size MainWindow::framed(Size area, UINT dpi) const {
+  RECT frame{0, 0, area.width, area.height};
+  ::AdjustWindowRectExForDpi(&frame, kStyle, TRUE, WS_EX_CONTROLPARENT, dpi);
+  return {frame.right - frame.left, frame.bottom - frame.top};
+}
+
+// For the client area, in pixels of the usual screen.
+Size MainWindow::available() const {
+  const RECT work = work_area(window_);
+  const UINT dpi = ::GetDpiForWindow(window_);
+  const Size frame = framed({}, dpi);
+  return {::MulDiv(work.right - work.left - frame.width, kUsualDpi, static_cast<int>(dpi)),
+          ::MulDiv(work.bottom - work.top - frame.height, kUsualDpi, static_cast<int>(dpi))};
+}
+
+void MainWindow::show() {
+  push();
+  const UINT dpi = ::GetDpiForWindow(window_);
+  const double scale = 1. * dpi / kUsualDpi;
+  const Size size = framed({scaled(layout_.start().width, scale), scaled(layout_.start().height, scale)}, dpi);
+  const RECT work = work_area(window_);
+  ::SetWindowPos(window_, nullptr, std::max(work.left, (work.left + work.right - size.width) / 2),
+                 std::max(work.top, (work.top + work.bottom - size.height) / 2), size.width, size.height,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+  arrange();
+  ::ShowWindow(window_, SW_SHOWNORMAL);
+  ::UpdateWindow(window_);
+}
+
+void MainWindow::arrange() {
+  const Size inside = area();
+  if (inside.width <= 0 || inside.height <= 0) return;  // it is an icon now
+  const double pixels_per_point = kUsualDpi / kPointsPerInch * layout_.font_factor(inside);
+  const std::vector<Place> places = layout_.places(form_.window(), inside);
+  for (int i = 0; i < controls(); ++i) {
+    const HWND moved = view(i).window;
+    if (moved == nullptr) continue;
+    const Place& place = places[static_cast<std::size_t>(i)];
+    const auto font = reinterpret_cast<WPARAM>(font_of(def(i).font, pixels_per_point));
+    if (static_cast<WPARAM>(::SendMessageW(moved, WM_GETFONT, 0, 0)) != font) ::SendMessageW(moved, WM_SETFONT, font, TRUE);
+    const bool combo = def(i).kind == Kind::ComboBox;  // which counts its open list in
+    const int list = combo ? kPickRows * static_cast<int>(::SendMessageW(moved, CB_GETITEMHEIGHT, 0, 0)) : 0;
+    const auto move = [&] {
+      ::SetWindowPos(moved, nullptr, place.left, place.top, place.width, place.height + list, SWP_NOZORDER | SWP_NOACTIVATE);
+    };
+    if (!combo) {
+      move();
+      continue;
+    }
+    // Closed it is as high as its text, and something around that.
+    const auto closed_with = [&](int text) {
+      ::SendMessageW(moved, CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), std::max(1, text));
+      move();
+      RECT closed{};
+      ::GetWindowRect(moved, &closed);
+      return static_cast<int>(closed.bottom - closed.top);
+    };
+    closed_with(2 * place.height - closed_with(place.height));
+  }
+}
+
+LRESULT CALLBACK MainWindow::window_procedure(HWND window, UINT message, WPARAM w, LPARAM l) {
+  auto* const self = reinterpret_cast<MainWindow*>(::GetWindowLongPtrW(window, GWLP_USERDATA));
+  return self != nullptr ? self->receive(message, w, l) : ::DefWindowProcW(window, message, w, l);
+}
+
+LRESULT MainWindow::receive(UINT message, WPARAM w, LPARAM l) {
+  switch (message) {
+    case WM_COMMAND:
+      if (const int control = LOWORD(w) - kFirstId; control >= 0 && control < controls()) notified(control, HIWORD(w));
+      return 0;
+    case WM_CTLCOLORSTATIC: {
+      const auto dc = reinterpret_cast<HDC>(w);
+      const int control = control_of(reinterpret_cast<HWND>(l));
+      if (control >= 0) ::SetTextColor(dc, color_of(def(control).color));
+      ::SetBkColor(dc, color_of(form_.definition().background));
+      return reinterpret_cast<LRESULT>(background_);
+    }
+    case WM_NOTIFY:
+      if (reinterpret_cast<NMHDR*>(l)->code == TTN_GETDISPINFOW) show_tip(*reinterpret_cast<NMTTDISPINFOW*>(l));
+      return 0;
+    case WM_SIZE: arrange(); return 0;
+    case WM_GETMINMAXINFO: {
+      const UINT dpi = ::GetDpiForWindow(window_);
+      const double scale = kSmallest * dpi / kUsualDpi;
+      const Size least = framed({scaled(layout_.start().width, scale), scaled(layout_.start().height, scale)}, dpi);
+      reinterpret_cast<MINMAXINFO*>(l)->ptMinTrackSize = {least.width, least.height};
+      return 0;
+    }
+    case WM_GETDPISCALEDSIZE: {  // a screen of another scale: the same client area, scaled, in a frame of that screen
+      const double scale = 1. * static_cast<double>(w) / ::GetDpiForWindow(window_);
+      const Size inside = area(),
+                 size = framed({scaled(inside.width, scale), scaled(inside.height, scale)}, static_cast<UINT>(w));
+      *reinterpret_cast<SIZE*>(l) = {size.width, size.height};
+      return TRUE;
+    }
+    case WM_DPICHANGED: {
+      const RECT& wanted = *reinterpret_cast<const RECT*>(l);
+      ::SetWindowPos(window_, nullptr, wanted.left, wanted.top, wanted.right - wanted.left, wanted.bottom - wanted.top,
+                     SWP_NOZORDER | SWP_NOACTIVATE);
+      return 0;
+    }
+    case WM_ACTIVATE:
+      if (LOWORD(w) == WA_INACTIVE)
+        focus_ = ::GetFocus();
+      else
+        ::SetFocus(focus_);
+      return 0;
+    case WM_CLOSE:
+      if (running_) return 0;
+      form_.window().ended = true;
+      ::DestroyWindow(window_);
+      return 0;
+    case WM_DESTROY:
+      for (const View& named : views_)
+        if (names_ != nullptr && !named.name.empty()) name(named.window, nullptr, nullptr);
+      ::PostQuitMessage(form_.window().status);
+      return 0;
+    default: return ::DefWindowProcW(window_, message, w, l);
+  }
+}
+
+void MainWindow::notified(int control, UINT notice) {
+  const HWND from = view(control).window;
+  switch (def(control).kind) {
+    case Kind::MenuItem: return run(control);
+    case Kind::Button:
+      if (notice == BN_CLICKED) run(control);
+      return;
+    case Kind::TextBox:
+      if (notice == EN_CHANGE) typed(control);
+      if (notice == EN_KILLFOCUS) ::SendMessageW(from, EM_SETSEL, 0, 0);  // it is seen from its beginning
+      return;
+    case Kind::ListBox:  // told by a screen reader, as the list itself tells nothing
+      if (notice == LBN_SELCHANGE) choose(control, static_cast<int>(::SendMessageW(from, LB_GETCURSEL, 0, 0)));
+      return;
+    case Kind::ComboBox:
+      if (notice == CBN_EDITCHANGE) typed(control);
+      if (notice == CBN_KILLFOCUS) ::SendMessageW(from, CB_SETEDITSEL, 0, 0);
+      // What follows waits until the box is done with the message that brought it.
+      if (notice == CBN_SELENDOK) picked_ = true;
+      if (notice == CBN_SELENDOK || notice == CBN_CLOSEUP) closing_ = control;
+      if (closing_ >= 0) ::PostMessageW(window_, WM_NULL, 0, 0);
+      return;
+    default: return;
+  }
+}
+
+// A list chooses by its first button, keys and letters, each before the next event; a drag chooses nothing. A combo box does
+// not turn with the wheel.
+LRESULT CALLBACK MainWindow::control_procedure(HWND window, UINT message, WPARAM w, LPARAM l, UINT_PTR id, DWORD_PTR self) {
+  auto& main = *reinterpret_cast<MainWindow*>(self);
+  const int control = static_cast<int>(id);
+  if (main.def(control).kind == Kind::ListBox) return main.receive_in_list(control, window, message, w, l);
+  const bool open = ::SendMessageW(main.control(control), CB_GETDROPPEDSTATE, 0, 0) != 0;
+  if (message == WM_MOUSEWHEEL && !open) return 0;
+  return ::DefSubclassProc(window, message, w, l);
+}
+
+LRESULT MainWindow::receive_in_list(int control, HWND list, UINT message, WPARAM w, LPARAM l) {
+  const auto selected = [list] { return static_cast<int>(::SendMessageW(list, LB_GETCURSEL, 0, 0)); };
+  const auto select = [&](int entry) {
+    if (entry < 0) return;
+    ::SendMessageW(list, LB_SETCURSEL, static_cast<WPARAM>(entry), 0);
+    choose(control, entry);
+  };
+  switch (message) {
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONDBLCLK: {
+      ::SetFocus(list);
+      const LRESULT at = ::SendMessageW(list, LB_ITEMFROMPOINT, 0, l);
+      if (HIWORD(at) == 0) select(LOWORD(at));
+      return 0;
+    }
+    case WM_CHAR:
+      if (w > VK_SPACE)
+        select(letters_.find(form_.window()[control].entries, selected(), to_bytes(std::wstring(1, static_cast<wchar_t>(w))),
+                             static_cast<std::uint64_t>(static_cast<DWORD>(::GetMessageTime()))));
+      return 0;
+    case WM_KEYDOWN: {
+      const int before = selected();
+      const bool empty = form_.window()[control].entries.empty();
+      if (before < 0 && !empty && (w == VK_DOWN || w == VK_UP)) return select(0), 0;
+      const LRESULT result = ::DefSubclassProc(list, message, w, l);
+      if (selected() != before) select(selected());
+      return result;
+    }
+    default: return ::DefSubclassProc(list, message, w, l);
+  }
+}
+
+bool MainWindow::take_message() {
+  MSG message;
+  if (::GetMessageW(&message, nullptr, 0, 0) <= 0) return false;
+  handle(message);
+  return true;
+}
+
+void MainWindow::handle(MSG& message) {
+  if (!press(message) && !::IsDialogMessageW(window_, &message)) {
+    ::TranslateMessage(&message);
+    ::DispatchMessageW(&message);
+  }
+  settle_combo();
+}
+
+// Enter presses a button and shows a species again; it leaves a box as it is.
+bool MainWindow::press(const MSG& message) {
+  const int control = control_of(message.hwnd);
+  if (message.message != WM_KEYDOWN || message.wParam != VK_RETURN || control < 0) return false;
+  const HWND pressed = view(control).window;
+  if (def(control).kind == Kind::ComboBox && ::SendMessageW(pressed, CB_GETDROPPEDSTATE, 0, 0) != 0) return false;
+  if (def(control).kind == Kind::Button) ::SendMessageW(pressed, BM_CLICK, 0, 0);
+  if (def(control).kind == Kind::ListBox) choose(control, static_cast<int>(::SendMessageW(pressed, LB_GETCURSEL, 0, 0)));
+  return true;
+}
+
+int MainWindow::control_of(HWND window) const {
+  for (int i = 0; i < controls(); ++i)
+    if (window != nullptr && (window == control(i) || ::GetParent(window) == control(i)) && control(i) != nullptr) return i;
+  return -1;
+}
+
+// Of an entry of the list, also of the one chosen before.
+void MainWindow::choose(int control, int entry) {
+  if (entry < 0) return;
+  if (!running_) form_.window()[control].selected = entry;
+  run(control);
+}
+
+// A combo box was closed: by a pick, or its text becomes again what the user had typed.
+void MainWindow::settle_combo() {
+  const int control = std::exchange(closing_, -1);
+  if (control < 0) return;
+  Control& value = form_.window()[control];
+  const auto entry = static_cast<std::size_t>(::SendMessageW(view(control).window, CB_GETCURSEL, 0, 0));
+  const bool picked = std::exchange(picked_, false) && entry < value.entries.size();
+  if (picked && !running_) value.text = value.entries[entry];
+  show_text(control, from_bytes(value.text));
+  if (picked) run(control);
+}
+
+// By whatever means, dictation among them.
+void MainWindow::typed(int control) {
+  if (pushing_) return;
+  const HWND box = view(control).window;
+  const HWND edit = def(control).kind == Kind::ComboBox ? edit_of(box) : box;
+  const std::wstring text = text_of(box);
+  std::string& value = form_.window()[control].text;
+  value = to_bytes(text);
+  const std::wstring kept = from_bytes(value);
+  view(control).text = kept;
+  if (kept == text) return;
+  DWORD caret = 0;
+  ::SendMessageW(edit, EM_GETSEL, reinterpret_cast<WPARAM>(&caret), 0);
+  const auto before = from_bytes(to_bytes(text.substr(0, caret))).size();
+  show_text(control, kept);
+  ::SendMessageW(edit, EM_SETSEL, before, static_cast<LPARAM>(before));
+  EDITBALLOONTIP tip{};
+  tip.cbStruct = sizeof tip;
+  tip.pszTitle = L"";
+  tip.pszText = L"A character was left out: the files hold only those of the code page Windows-1252.";
+  ::SendMessageW(edit, EM_SHOWBALLOONTIP, 0, reinterpret_cast<LPARAM>(&tip));
+}
+
+void MainWindow::run(int control) {
+  if (running_) return push();  // takes back what was done to the control
+  running_ = true;
+  form_.click(control);
+  running_ = false;
+  push();
+  if (form_.window().ended) ::SendMessageW(window_, WM_CLOSE, 0, 0);
+}
+
+void MainWindow::push() {
+  pushing_ = true;
+  bool moved = false;
+  for (int i = 0; i < controls(); ++i) {
+    const Control& now = form_.window()[i];
+    View& shown = view(i);
+    if (shown.window == nullptr) continue;
+    show_entries(i, now);
+    if (const std::wstring text = def(i).path ? from_path(now.text) : from_bytes(now.text); text != shown.text)
+      show_text(i, text);
+    moved |= now.shown != shown.shown;
+    shown.shown = now.shown;
+  }
+  if (moved) arrange();  // what covers what
+  for (const View& shown : views_)
+    if (shown.window != nullptr) ::ShowWindow(shown.window, shown.shown ? SW_SHOWNA : SW_HIDE);
+  name_boxes();
+  keep_focus();
+  pushing_ = false;
+}
+
+void MainWindow::show_text(int control, const std::wstring& text) {
+  const bool pushing = std::exchange(pushing_, true);
+  View& shown = view(control);
+  shown.text = text;
+  std::wstring written = text;
+  if (def(control).kind == Kind::Button)
+    for (std::size_t at = 0; (at = written.find(L'&', at)) != written.npos; at += 2) written.insert(at, 1, L'&');
+  if (def(control).kind == Kind::ComboBox) {
+    const auto entry = std::ranges::find(shown.entries, form_.window()[control].text);
+    const auto index = entry != shown.entries.end() ? entry - shown.entries.begin() : -1;
+    ::SendMessageW(shown.window, CB_SETCURSEL, static_cast<WPARAM>(index), 0);
+  }
+  ::SetWindowTextW(shown.window, written.c_str());
+  pushing_ = pushing;
+}
+
+void MainWindow::show_entries(int control, const Control& now) {
+  const Kind kind = def(control).kind;
+  if (kind != Kind::ListBox && kind != Kind::ComboBox) return;
+  const bool list = kind == Kind::ListBox;
+  View& shown = view(control);
+  if (now.entries != shown.entries) {
+    shown.entries = now.entries;
+    ::SendMessageW(shown.window, WM_SETREDRAW, FALSE, 0);
+    ::SendMessageW(shown.window, list ? LB_RESETCONTENT : CB_RESETCONTENT, 0, 0);
+    ::SendMessageW(shown.window, list ? LB_INITSTORAGE : CB_INITSTORAGE, now.entries.size(), 0);
+    const std::string* longest = nullptr;
+    for (const std::string& entry : now.entries) {
+      const std::wstring text = from_bytes(entry);
+      ::SendMessageW(shown.window, list ? LB_ADDSTRING : CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str()));
+      if (longest == nullptr || entry.size() > longest->size()) longest = &entry;
+    }
+    if (list) {
+      const Measure measure(reinterpret_cast<HFONT>(::SendMessageW(shown.window, WM_GETFONT, 0, 0)));
+      const int width = longest == nullptr ? 0 : measure.width(from_bytes(*longest)) + kTextMargin;
+      ::SendMessageW(shown.window, LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(width), 0);
+    } else {
+      show_text(control, shown.text);  // which went with the entries
+    }
+    ::SendMessageW(shown.window, WM_SETREDRAW, TRUE, 0);
+    ::InvalidateRect(shown.window, nullptr, TRUE);
+  }
+  if (list && ::SendMessageW(shown.window, LB_GETCURSEL, 0, 0) != now.selected)
+    ::SendMessageW(shown.window, LB_SETCURSEL, static_cast<WPARAM>(now.selected), 0);
+}
+
+// For screen readers: a box by the text of its label, which changes, and by what the box holds.
+void MainWindow::name_boxes() {
+  for (int i = 0; i < controls(); ++i) {
+    if (def(i).label < 0 || names_ == nullptr) continue;
+    const std::wstring& label = view(def(i).label).text;
+    if (label == view(i).name) continue;
+    view(i).name = label;
+    const std::wstring about = from_bytes(def(i).about);
+    name(view(i).window, label.c_str(), about.c_str());
+    if (const HWND edit = edit_of(view(i).window)) name(edit, label.c_str(), about.c_str());
+  }
+}
+
+void MainWindow::name(HWND box, const wchar_t* text, const wchar_t* about) {
+  static const MSAAPROPID kProperties[] = {PROPID_ACC_NAME, PROPID_ACC_DESCRIPTION};
+  if (text == nullptr) {
+    names_->ClearHwndProps(box, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF, kProperties, std::size(kProperties));
+    return;
+  }
+  names_->SetHwndPropStr(box, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF, PROPID_ACC_NAME, text);
+  names_->SetHwndPropStr(box, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF, PROPID_ACC_DESCRIPTION, about);
+}
+
+// A box that is hidden gives it to the next one.
+void MainWindow::keep_focus() {
+  const int control = control_of(::GetFocus());
+  if (control >= 0 && !view(control).shown) ::SetFocus(::GetNextDlgTabItem(window_, view(control).window, FALSE));
+}
+
+}  // namespace ui::win32
