@@ -1,12 +1,13 @@
 // The tables in tests/disk: what the program relies on in a file system, what a replacement makes of it, and what the window
 // makes of its failures, on the real disk and on the files in memory on which all tests of faults rest. "= TITLE" begins in
-// an empty folder, "=m" one that needs what only the files in memory have, "=d" what only a disk has, "=r" what only root
-// can do there. Below it stand operations, with "=> RESULT" where they have one ("FOLDER" is the folder's path, other
-// characters as in support::plain()). "fail CALL N ERROR" makes the Nth such call of what follows fail, "refuse FUNCTION
-// ERROR" that function of the C library; "after CALL LINE" and "at CALL N LINE" do something after each such call, or after
-// the Nth; "waiting N LINE" while the program waits for the Nth time, "asked LINE" while the next box stands, "before-lock
-// LINE" before a file that was opened is locked; in these LINEs "==" stands for "=>". A line of a story (player/player.h) is
-// played in a window, and gives its message boxes but for questions.
+// an empty folder; letters after the "=" name the worlds that alone play a case: m the files in memory, d a disk of POSIX, r
+// such a disk by root, w a disk of Windows. Below it stand operations, with "=> RESULT" where they have one ("FOLDER" is the
+// folder's path, other characters as in support::plain()). "fail CALL N ERROR" makes the Nth such call of what follows fail,
+// or with * each, "refuse FUNCTION ERROR" that function of the system's own library (on Windows with an error's number);
+// "after CALL LINE" and "at CALL N LINE" do something after each such call, or after the Nth; "waiting N LINE" while the
+// program waits for the Nth time, "asked LINE" while the next box stands, "before-lock LINE" before a file that was opened
+// is locked; in these LINEs "==" stands for "=>". A line of a story (player/player.h) is played in a window, and gives its
+// message boxes but for questions.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -91,7 +92,6 @@ class Script {
   static void exchange(std::string& text, Text old, Text fresh) {
     for (std::size_t at = 0; (at = text.find(old, at)) != text.npos; at += fresh.size()) text.replace(at, old.size(), fresh);
   }
-  static unsigned number(Text text, int base = 10) { return static_cast<unsigned>(std::stoul(text, nullptr, base)); }
   static std::string said(std::error_code error) { return error ? file::reason(error) : ""; }
   template <typename Action>
   static std::string told(Action action) {
@@ -222,6 +222,12 @@ class Script {
     if (verb == "enter") return said(system_.change_folder(a));
     if (verb == "drive") return said(system_.change_drive(a.front()));
     if (verb == "in-file") return system_.path_in_file(a);
+    if (verb == "pause") {
+      const std::chrono::milliseconds time(std::stoi(a));
+      const auto begin = std::chrono::steady_clock::now();
+      system_.pause(time);
+      return std::chrono::steady_clock::now() - begin > time / 2 ? "" : "too short";
+    }
     if (verb == "where") return said(system_.current_folder(text)) + text;
     if (verb == "compare") {
       const Status x = look(a, Follow::Nothing), y = look(b, Follow::Links);

@@ -52,7 +52,7 @@ BOOL WINAPI flush(HANDLE file) {
   return !fails("FlushFileBuffers") && real_flush(file);
 }
 BOOL WINAPI move(const wchar_t* from, const wchar_t* to, DWORD how) {
-  disk::flushed += (how & MOVEFILE_WRITE_THROUGH) != 0 ? "name " : "";
+  disk::flushed += how == (MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) ? "name " : "";
   return !fails("MoveFileExW") && real_move(from, to, how);
 }
 DWORD WINAPI long_path(const wchar_t* path, wchar_t* text, DWORD size) {
@@ -67,12 +67,13 @@ BOOL WINAPI information(HANDLE file, BY_HANDLE_FILE_INFORMATION* info) {
   return done;
 }
 
-void exchange_all() {
+bool exchange_all() {
   real_flush = exchanged("FlushFileBuffers", flush);
   real_move = exchanged("MoveFileExW", move);
   real_long_path = exchanged("GetLongPathNameW", long_path);
   real_security = exchanged("GetKernelObjectSecurity", security);
   real_information = exchanged("GetFileInformationByHandle", information);
+  return true;
 }
 
 }  // namespace
@@ -130,7 +131,7 @@ std::string let_everyone(const std::string& name) {
 }  // namespace
 
 Folder::Folder() {
-  if (real_flush == nullptr) exchange_all();
+  [[maybe_unused]] static const bool exchanged = exchange_all();
   static int number = 0;
   const auto name = "kelmar-" + std::to_string(::GetTickCount64()) + "-" + std::to_string(++number);
   const auto folder = std::filesystem::temp_directory_path() / name;
