@@ -19,7 +19,7 @@ bool fails(const char* name) {
 }
 
 // A function of the system's, in whose place another one is put, in the table through which this program calls it: whether a
-// flush reaches the disk cannot be seen otherwise, and few disks fail as these do.
+// flush reaches the disk cannot be seen otherwise, few disks fail as these do, and wine lacks a limit.
 template <typename Function>
 Function* exchanged(const char* name, Function* instead) {
   char* const program = reinterpret_cast<char*>(::GetModuleHandleW(nullptr));
@@ -41,22 +41,43 @@ Function* exchanged(const char* name, Function* instead) {
   return nullptr;
 }
 
+decltype(&::CreateFileW) real_create;
+decltype(&::DeleteFileW) real_remove;
 decltype(&::FlushFileBuffers) real_flush;
 decltype(&::MoveFileExW) real_move;
 decltype(&::GetLongPathNameW) real_long_path;
 decltype(&::GetKernelObjectSecurity) real_security;
 decltype(&::GetFileInformationByHandle) real_information;
 
+// Wine takes a path of any length.
+bool fits(const wchar_t* path) {
+  if (std::wstring_view(path).starts_with(LR"(\\?\)") || ::GetFullPathNameW(path, 0, nullptr, nullptr) <= MAX_PATH)
+    return true;
+  return ::SetLastError(ERROR_PATH_NOT_FOUND), false;
+}
+
+HANDLE WINAPI create(const wchar_t* path, DWORD access, DWORD share, SECURITY_ATTRIBUTES* security, DWORD how, DWORD flags,
+                     HANDLE like) {
+  // The right that is asked for, and refused to this user.
+  const bool refuses = ((access & GENERIC_WRITE) != 0 && fails("GENERIC_WRITE")) || (access == DELETE && fails("DELETE")) ||
+                       (access == FILE_ADD_FILE && fails("FILE_ADD_FILE")) ||
+                       (access == FILE_READ_ATTRIBUTES && fails("FILE_READ_ATTRIBUTES"));
+  return !refuses && fits(path) ? real_create(path, access, share, security, how, flags, like) : INVALID_HANDLE_VALUE;
+}
+BOOL WINAPI remove(const wchar_t* path) { return fits(path) && real_remove(path); }
 BOOL WINAPI flush(HANDLE file) {
   disk::flushed += "file ";
   return !fails("FlushFileBuffers") && real_flush(file);
 }
 BOOL WINAPI move(const wchar_t* from, const wchar_t* to, DWORD how) {
   disk::flushed += how == (MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) ? "name " : "";
-  return !fails("MoveFileExW") && real_move(from, to, how);
+  // Wine renames from drive to drive where both lie on one file system of its host.
+  const bool crosses = std::filesystem::absolute(from).root_name() != std::filesystem::absolute(to).root_name();
+  if (crosses) ::SetLastError(ERROR_NOT_SAME_DEVICE);
+  return !crosses && !fails("MoveFileExW") && fits(from) && fits(to) && real_move(from, to, how);
 }
 DWORD WINAPI long_path(const wchar_t* path, wchar_t* text, DWORD size) {
-  return fails("GetLongPathNameW") ? 0 : real_long_path(path, text, size);
+  return fails("GetLongPathNameW") || !fits(path) ? 0 : real_long_path(path, text, size);
 }
 BOOL WINAPI security(HANDLE file, SECURITY_INFORMATION what, void* list, DWORD size, DWORD* needed) {
   return !fails("GetKernelObjectSecurity") && real_security(file, what, list, size, needed);
@@ -68,6 +89,8 @@ BOOL WINAPI information(HANDLE file, BY_HANDLE_FILE_INFORMATION* info) {
 }
 
 bool exchange_all() {
+  real_create = exchanged("CreateFileW", create);
+  real_remove = exchanged("DeleteFileW", remove);
   real_flush = exchanged("FlushFileBuffers", flush);
   real_move = exchanged("MoveFileExW", move);
   real_long_path = exchanged("GetLongPathNameW", long_path);
