@@ -75,6 +75,7 @@ TemporaryFile::TemporaryFile(System& system, std::string path, Access access, co
 }
 
 TemporaryFile::~TemporaryFile() {
+  writer_.close();  // Windows removes no file that is open without leave to
   try {
     if (ours_ && !is_taken()) uninterrupted([&] { return system_.remove(path_); });
   } catch (const std::bad_alloc&) {  // the next save removes it

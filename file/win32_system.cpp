@@ -351,15 +351,15 @@ class Win32System final : public System {
 
   // ReplaceFile would have a moment without the name, a copy one with half the content.
   std::error_code rename(const std::string& from, const std::string& to) override {
-    const std::wstring target = prefixed(wide(to));
-    if (::MoveFileExW(prefixed(wide(from)).c_str(), target.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
-      return {};
+    constexpr DWORD kInOneStep = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
+    if (::MoveFileExW(prefixed(wide(from)).c_str(), prefixed(wide(to)).c_str(), kInOneStep)) return {};
     const auto error = last_error();
     if (error != std::errc::permission_denied) return error;
-    // A target that another program has open is refused with the same error as a folder that is closed.
-    OpenFile tried(*this);
-    const auto alone = open(target, GENERIC_READ, 0, OPEN_EXISTING, kNoFolder, tried.handle());
-    return alone == std::errc::operation_would_block ? alone : error;
+    // A target that another program has open, be it only to look at it, is refused with the same error as a folder that is
+    // closed. Where the rights are there, it is that.
+    Status present;
+    const bool in_use = !status(to, Follow::Nothing, present) && present.writable && present.replaceable;
+    return in_use ? make_error_code(std::errc::operation_would_block) : error;
   }
 
   std::error_code remove(const std::string& path) override { return checked(::DeleteFileW(prefixed(wide(path)).c_str())); }

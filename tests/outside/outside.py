@@ -1,4 +1,5 @@
-"""What the checks from outside the program share: working folders, stories, and a player to run them."""
+"""What the checks from outside the program share: working folders, stories, and a player to run them, which under wine may be
+one for Windows (*.exe)."""
 import os
 import resource
 import shutil
@@ -6,7 +7,11 @@ import subprocess
 import sys
 import tempfile
 
+sys.path.append(os.path.join(os.path.dirname(os.path.abspath(__file__)), ".."))
+from wine.run import run as run_under_wine
+
 PLAYER = os.path.abspath(sys.argv[1])
+WINE = PLAYER.endswith(".exe")
 TRAILER = ('0,"",0,0,0,0,0,0,0,0\r\n0,0\r\n0,"For KELMAR",0,0,0,0,0,0,0,0\r\n0,0\r\n'
            '0,"",0,0,0,0,0,0,0,0\r\n0,0\r\n').encode()
 DATABASE = b"".join(b'%d,"Sp%d",0,1.5,0,0,2,0,0,0,0,1\r\n1,231\r\n' % (501 + i, i) for i in range(40)) + TRAILER
@@ -67,20 +72,29 @@ class Folder:
 
     def play(self, story, before=(), timeout=20, memory=None):
         """Runs the player, with at most `memory` bytes of data; gives its exit status and its lines."""
-        if "ASAN_OPTIONS" in os.environ:
-            memory = None  # a sanitizer takes terabytes of addresses
-        limit = (lambda: resource.setrlimit(resource.RLIMIT_DATA, (memory, memory))) if memory else None
-        with tempfile.TemporaryFile() as out:
-            run = subprocess.Popen([*before, PLAYER], cwd=self.path, stdin=subprocess.PIPE, stdout=out,
-                                   stderr=subprocess.DEVNULL, preexec_fn=limit)
-            try:
-                run.communicate(story.encode("latin-1"), timeout=timeout)
-            except subprocess.TimeoutExpired:
-                run.kill()
-                run.wait()
-                return "no end", []
-            out.seek(0)
-            return run.returncode, out.read().decode("latin-1").split("\n")
+        return play(self.path, story, before, timeout, memory)
+
+
+def play(folder, story, before=(), timeout=20, memory=None):
+    if "ASAN_OPTIONS" in os.environ:
+        memory = None  # a sanitizer takes terabytes of addresses
+    limit = (lambda: resource.setrlimit(resource.RLIMIT_DATA, (memory, memory))) if memory else None
+    with tempfile.TemporaryFile() as script, tempfile.TemporaryFile() as out:
+        script.write(story.encode("latin-1"))
+        script.seek(0)
+        if WINE:
+            status, told, _ = run_under_wine([PLAYER], folder, script)
+            return status, told.decode("latin-1").split("\n")
+        run = subprocess.Popen([*before, PLAYER], cwd=folder, stdin=script, stdout=out, stderr=subprocess.DEVNULL,
+                               preexec_fn=limit)
+        try:
+            run.wait(timeout)
+        except subprocess.TimeoutExpired:
+            run.kill()
+            run.wait()
+            return "no end", []
+        out.seek(0)
+        return run.returncode, out.read().decode("latin-1").split("\n")
 
 
 def boxes(lines):

@@ -8,6 +8,13 @@
 
 #include "app/controls.h"
 
+#ifdef _WIN32
+#include <fcntl.h>
+#include <io.h>
+
+#include <cstdio>
+#endif
+
 namespace player {
 namespace {
 
@@ -132,6 +139,10 @@ std::string Player::state() {
 }
 
 int play_script(Player& player, bool echo) {
+#ifdef _WIN32  // a line end is what is written, and 0x1a no end of the script
+  ::_setmode(::_fileno(stdin), _O_BINARY);
+  ::_setmode(::_fileno(stdout), _O_BINARY);
+#endif
   if (echo) std::cout << player.state();
   for (std::string line; std::getline(std::cin, line);) {
     if (line.empty() || line.front() == '#') continue;
