@@ -15,7 +15,7 @@ namespace {
 
 constexpr const wchar_t* kClass = L"KelmarDatabaseEditor";
 constexpr const wchar_t* kFace = L"Microsoft Sans Serif";
-constexpr DWORD kStyle = WS_OVERLAPPEDWINDOW;
+constexpr DWORD kStyle = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN;
 constexpr int kUsualDpi = USER_DEFAULT_SCREEN_DPI;
 constexpr double kPointsPerInch = 72;
 constexpr double kRoom = 1.02;    // for captions, which may grow a little more than their window
@@ -344,13 +344,12 @@ LRESULT MainWindow::receive(UINT message, WPARAM w, LPARAM l) {
       const RECT& wanted = *reinterpret_cast<const RECT*>(l);
       ::SetWindowPos(window_, nullptr, wanted.left, wanted.top, wanted.right - wanted.left, wanted.bottom - wanted.top,
                      SWP_NOZORDER | SWP_NOACTIVATE);
+      arrange();
       return 0;
     }
     case WM_ACTIVATE:
-      if (LOWORD(w) == WA_INACTIVE)
-        focus_ = ::GetFocus();
-      else
-        ::SetFocus(focus_);
+      if (const HWND focus = ::GetFocus(); LOWORD(w) == WA_INACTIVE && focus != nullptr) focus_ = focus;
+      if (LOWORD(w) != WA_INACTIVE && HIWORD(w) == 0) ::SetFocus(focus_);  // not while it is an icon
       return 0;
     case WM_CLOSE:
       if (running_) return 0;
@@ -400,6 +399,7 @@ LRESULT CALLBACK MainWindow::control_procedure(HWND window, UINT message, WPARAM
   if (main.def(control).kind == Kind::ListBox) return main.receive_in_list(control, window, message, w, l);
   const bool open = ::SendMessageW(main.control(control), CB_GETDROPPEDSTATE, 0, 0) != 0;
   if (message == WM_MOUSEWHEEL && !open) return 0;
+  if (message == WM_CHAR && (w == VK_RETURN || w == VK_ESCAPE)) return 0;  // of the key that closed it: no sound
   return ::DefSubclassProc(window, message, w, l);
 }
 
@@ -451,16 +451,19 @@ void MainWindow::handle(MSG& message) {
   settle_combo();
 }
 
-// Tab goes on, Shift with it back. Enter presses a button and shows a species again; it leaves a box as it is.
+// Tab goes on, Shift with it back. Enter presses a button and shows a species again; it leaves a box as it is, and so does
+// Esc.
 bool MainWindow::press(const MSG& message) {
   const int control = control_of(message.hwnd);
-  if (message.message != WM_KEYDOWN || (message.wParam != VK_TAB && message.wParam != VK_RETURN)) return false;
-  if (message.wParam == VK_TAB) return move_focus(control, ::GetKeyState(VK_SHIFT) < 0), true;
+  const WPARAM key = message.wParam;
+  if (message.message != WM_KEYDOWN || (key != VK_TAB && key != VK_RETURN && key != VK_ESCAPE)) return false;
+  if (key == VK_TAB) return move_focus(control, ::GetKeyState(VK_SHIFT) < 0), true;
   if (control < 0) return false;
   const HWND pressed = view(control).window;
   if (def(control).kind == Kind::ComboBox && ::SendMessageW(pressed, CB_GETDROPPEDSTATE, 0, 0) != 0) return false;
-  if (def(control).kind == Kind::Button) ::SendMessageW(pressed, BM_CLICK, 0, 0);
-  if (def(control).kind == Kind::ListBox) choose(control, static_cast<int>(::SendMessageW(pressed, LB_GETCURSEL, 0, 0)));
+  if (key == VK_RETURN && def(control).kind == Kind::Button) run(control);
+  if (key == VK_RETURN && def(control).kind == Kind::ListBox)
+    choose(control, static_cast<int>(::SendMessageW(pressed, LB_GETCURSEL, 0, 0)));
   return true;
 }
 
@@ -577,7 +580,7 @@ void MainWindow::show_entries(int control, const Control& now) {
   View& shown = view(control);
   if (now.entries != shown.entries) {
     shown.entries = now.entries;
-    ::SendMessageW(shown.window, WM_SETREDRAW, FALSE, 0);
+    if (list) ::SendMessageW(shown.window, WM_SETREDRAW, FALSE, 0);
     ::SendMessageW(shown.window, list ? LB_RESETCONTENT : CB_RESETCONTENT, 0, 0);
     ::SendMessageW(shown.window, list ? LB_INITSTORAGE : CB_INITSTORAGE, now.entries.size(), 0);
     const std::string* longest = nullptr;
@@ -590,11 +593,11 @@ void MainWindow::show_entries(int control, const Control& now) {
       const Measure measure(reinterpret_cast<HFONT>(::SendMessageW(shown.window, WM_GETFONT, 0, 0)));
       const int width = longest == nullptr ? 0 : measure.width(from_bytes(*longest)) + kTextMargin;
       ::SendMessageW(shown.window, LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(width), 0);
+      ::SendMessageW(shown.window, WM_SETREDRAW, TRUE, 0);
+      ::InvalidateRect(shown.window, nullptr, TRUE);
     } else {
       show_text(control, shown.text);  // which went with the entries
     }
-    ::SendMessageW(shown.window, WM_SETREDRAW, TRUE, 0);
-    ::InvalidateRect(shown.window, nullptr, TRUE);
   }
   if (list && ::SendMessageW(shown.window, LB_GETCURSEL, 0, 0) != now.selected)
     ::SendMessageW(shown.window, LB_SETCURSEL, static_cast<WPARAM>(now.selected), 0);
