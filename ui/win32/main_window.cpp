@@ -177,7 +177,7 @@ void MainWindow::build(int control) {
     case Kind::MenuItem: return;
   }
   View& shown = view(control);
-  shown.text = from_bytes(form_.window()[control].text);
+  if (def.kind != Kind::ComboBox) shown.text = from_bytes(form_.window()[control].text);  // which is made without one
   HWND& built = shown.window;
   built = ::CreateWindowExW(0, kind, written(control, shown.text).c_str(), style, 0, 0, 0, 0, window_,
                             reinterpret_cast<HMENU>(static_cast<INT_PTR>(kFirstId + control)), ::GetModuleHandleW(nullptr),
@@ -279,7 +279,7 @@ Size MainWindow::framed(Size area, UINT dpi) const {
 
 void MainWindow::show() {
   push();
-  focus_ = control(order_[1]);
+  focus_ = control(*std::ranges::find_if(order_, [this](int i) { return def(i).tab >= 0; }));
   ::ShowWindow(window_, SW_SHOWNORMAL);
   ::UpdateWindow(window_);
 }
