@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "file/system.h"
@@ -36,10 +37,12 @@ std::error_code error_of(DWORD error) {
                    {ERROR_DIRECTORY, std::errc::not_a_directory},
                    {ERROR_ACCESS_DENIED, std::errc::permission_denied},
                    {ERROR_NETWORK_ACCESS_DENIED, std::errc::permission_denied},
+                   {ERROR_PRIVILEGE_NOT_HELD, std::errc::operation_not_permitted},
                    {ERROR_WRITE_PROTECT, std::errc::read_only_file_system},
                    {ERROR_SHARING_VIOLATION, std::errc::operation_would_block},
                    {ERROR_LOCK_VIOLATION, std::errc::operation_would_block},
                    {ERROR_USER_MAPPED_FILE, std::errc::operation_would_block},
+                   {ERROR_DELETE_PENDING, std::errc::operation_would_block},
                    {ERROR_FILE_EXISTS, std::errc::file_exists},
                    {ERROR_ALREADY_EXISTS, std::errc::file_exists},
                    {ERROR_NOT_SAME_DEVICE, std::errc::cross_device_link},
@@ -47,13 +50,25 @@ std::error_code error_of(DWORD error) {
                    {ERROR_HANDLE_DISK_FULL, std::errc::no_space_on_device},
                    {kQuotaExceeded, std::errc::no_space_on_device},
                    {ERROR_FILENAME_EXCED_RANGE, std::errc::filename_too_long},
+                   {ERROR_BUFFER_OVERFLOW, std::errc::filename_too_long},
                    {ERROR_CANT_RESOLVE_FILENAME, std::errc::too_many_symbolic_link_levels},
                    {ERROR_TOO_MANY_OPEN_FILES, std::errc::too_many_files_open},
                    {ERROR_NOT_ENOUGH_MEMORY, std::errc::not_enough_memory},
+                   {ERROR_OUTOFMEMORY, std::errc::not_enough_memory},
+                   {ERROR_NO_SYSTEM_RESOURCES, std::errc::not_enough_memory},
+                   {ERROR_COMMITMENT_LIMIT, std::errc::not_enough_memory},
+                   {ERROR_INVALID_PARAMETER, std::errc::invalid_argument},
+                   {ERROR_INVALID_FUNCTION, std::errc::not_supported},
+                   {ERROR_NOT_SUPPORTED, std::errc::not_supported},
+                   {ERROR_SEM_TIMEOUT, std::errc::timed_out},
                    {ERROR_NOT_READY, std::errc::no_such_device},
                    {ERROR_INVALID_HANDLE, std::errc::bad_file_descriptor},
                    {ERROR_CRC, std::errc::io_error},
                    {ERROR_IO_DEVICE, std::errc::io_error},
+                   {ERROR_FILE_CORRUPT, std::errc::io_error},
+                   {ERROR_DISK_CORRUPT, std::errc::io_error},
+                   {ERROR_NETNAME_DELETED, std::errc::io_error},
+                   {ERROR_UNEXP_NET_ERR, std::errc::io_error},
                    {ERROR_WRITE_FAULT, std::errc::io_error},
                    {ERROR_READ_FAULT, std::errc::io_error}};
   for (const auto& known : kMeanings)
@@ -114,8 +129,12 @@ std::wstring unprefixed(const std::wstring& path) {
   return path.starts_with(LR"(\\?\)") ? path.substr(4) : path;
 }
 
+// Such a name is a device in every folder, whatever follows a dot in it, and opening some does something to them.
+bool is_device(const std::wstring& path) { return full(path).starts_with(LR"(\\.\)"); }
+
 std::error_code open(const std::wstring& path, DWORD access, DWORD share, DWORD disposition, DWORD flags, Handle& handle,
                      SECURITY_ATTRIBUTES* security = nullptr) {
+  if (is_device(path)) return make_error_code(std::errc::invalid_argument);
   const HANDLE opened = ::CreateFileW(prefixed(path).c_str(), access, share, security, disposition, flags, nullptr);
   if (opened == INVALID_HANDLE_VALUE) return last_error();
   handle = reinterpret_cast<Handle>(opened);
@@ -131,6 +150,12 @@ bool is_link(HANDLE file) {
 
 std::wstring final_path(HANDLE file) {
   return unprefixed(answer([&](wchar_t* text, DWORD size) { return ::GetFinalPathNameByHandleW(file, text, size, 0); }));
+}
+
+// The same for every spelling.
+std::wstring folded(std::wstring name) {
+  ::CharUpperBuffW(name.data(), static_cast<DWORD>(name.size()));
+  return name;
 }
 
 std::chrono::nanoseconds since_1601(LARGE_INTEGER ticks) { return std::chrono::nanoseconds(100) * ticks.QuadPart; }
@@ -149,7 +174,7 @@ std::error_code open_plain(const std::wstring& path, DWORD access, Handle& handl
   return make_error_code(std::errc::invalid_argument);
 }
 
-// Access for this user alone.
+// Access for this user alone, whatever the folder gives to others.
 struct Private {
   Private() {
     HANDLE token = nullptr;
@@ -166,7 +191,8 @@ struct Private {
     if (::InitializeAcl(acl, static_cast<DWORD>(list.size()), ACL_REVISION) &&
         ::AddAccessAllowedAce(acl, ACL_REVISION, FILE_ALL_ACCESS, sid) &&
         ::InitializeSecurityDescriptor(&descriptor, SECURITY_DESCRIPTOR_REVISION) &&
-        ::SetSecurityDescriptorDacl(&descriptor, TRUE, acl, FALSE))
+        ::SetSecurityDescriptorDacl(&descriptor, TRUE, acl, FALSE) &&
+        ::SetSecurityDescriptorControl(&descriptor, SE_DACL_PROTECTED, SE_DACL_PROTECTED))
       attributes.lpSecurityDescriptor = &descriptor;
   }
   Private(const Private&) = delete;
@@ -186,12 +212,12 @@ class Win32System final : public System {
     return open_plain(wide(path), GENERIC_READ, handle);
   }
 
-  // While it is written nobody else removes it.
+  // While it is written nobody else removes it. Through a link that leads nowhere it would be made elsewhere.
   std::error_code create_new(const std::string& path, Access access, Handle& handle) override {
     Private alone;
     if (access == Access::Private && alone.attributes.lpSecurityDescriptor == nullptr) return last_error();
-    return open(wide(path), GENERIC_WRITE | READ_CONTROL | WRITE_DAC, FILE_SHARE_READ, CREATE_NEW, kNoFolder, handle,
-                access == Access::Private ? &alone.attributes : nullptr);
+    return open(wide(path), GENERIC_WRITE | FILE_READ_ATTRIBUTES | READ_CONTROL | WRITE_DAC, FILE_SHARE_READ, CREATE_NEW,
+                FILE_FLAG_OPEN_REPARSE_POINT, handle, access == Access::Private ? &alone.attributes : nullptr);
   }
 
   // By a file of its own beside it, which the system removes with the handle: one that is open cannot be renamed over. Only
@@ -203,19 +229,24 @@ class Win32System final : public System {
     if (present.type == Type::Link) return make_error_code(std::errc::too_many_symbolic_link_levels);
     if (present.type != Type::Plain) return make_error_code(std::errc::invalid_argument);
     const std::wstring name = prefixed(full(wide(path)));
-    const std::wstring lock =  // by the one name of many
-        answer([&](wchar_t* text, DWORD size) { return ::GetLongPathNameW(name.c_str(), text, size); }) + kLock;
-    const auto create = [&] {
-      return open(lock, DELETE, 0, CREATE_NEW, FILE_ATTRIBUTE_HIDDEN | FILE_FLAG_DELETE_ON_CLOSE, handle);
-    };
-    const auto error = create();
+    // The one name of many; a folder that may not be listed does not tell it.
+    const std::wstring one = answer([&](wchar_t* text, DWORD size) { return ::GetLongPathNameW(name.c_str(), text, size); });
+    const std::wstring lock = (one.empty() ? name : one) + kLock;
+    constexpr DWORD kAccess = DELETE | FILE_READ_ATTRIBUTES, kNew = FILE_ATTRIBUTE_HIDDEN | FILE_FLAG_DELETE_ON_CLOSE;
+    const auto error = open(lock, kAccess, 0, CREATE_NEW, kNew | FILE_FLAG_OPEN_REPARSE_POINT, handle);
     if (error != std::errc::file_exists) return error;
     OpenFile left(*this);
-    if (const auto held = open(lock, DELETE | FILE_READ_ATTRIBUTES, 0, OPEN_EXISTING, kNoFolder, left.handle())) return held;
+    const auto held = open(lock, kAccess, 0, OPEN_EXISTING, FILE_FLAG_OPEN_REPARSE_POINT, left.handle());
+    if (held == std::errc::no_such_file_or_directory) return make_error_code(std::errc::operation_would_block);
+    if (held) return held;
     LARGE_INTEGER size{};
-    if (!::GetFileSizeEx(native(left.get()), &size) || size.QuadPart > 0) return error;  // somebody's file
-    left.close();
-    return ::DeleteFileW(lock.c_str()) ? create() : last_error();
+    const bool ours = ::GetFileSizeEx(native(left.get()), &size) && size.QuadPart == 0 && !is_link(native(left.get()));
+    if (!ours) return error;
+    FILE_DISPOSITION_INFO removed{TRUE};  // with the handle
+    if (!::SetFileInformationByHandle(native(left.get()), FileDispositionInfo, &removed, sizeof removed))
+      return last_error();
+    std::swap(handle, left.handle());
+    return {};
   }
 
   std::error_code read(Handle handle, std::uint64_t offset, char* bytes, std::size_t size, std::size_t& got) override {
@@ -248,19 +279,9 @@ class Win32System final : public System {
     if ((basic.FileAttributes & ~own.FileAttributes & FILE_ATTRIBUTE_ENCRYPTED) != 0)
       return make_error_code(std::errc::operation_not_permitted);
 
-    DWORD size = 0;
-    ::GetKernelObjectSecurity(native(like.get()), DACL_SECURITY_INFORMATION, nullptr, 0, &size);
-    std::vector<char> list(size);
-    SECURITY_DESCRIPTOR_CONTROL control = 0;
-    DWORD revision = 0;
-    if (!::GetKernelObjectSecurity(native(like.get()), DACL_SECURITY_INFORMATION, list.data(), size, &size) ||
-        !::GetSecurityDescriptorControl(list.data(), &control, &revision))
-      return last_error();
-    // Entries that came from the folder stay known as such only where that is asked for.
-    if ((control & SE_DACL_AUTO_INHERITED) != 0)
-      ::SetSecurityDescriptorControl(list.data(), SE_DACL_AUTO_INHERIT_REQ, SE_DACL_AUTO_INHERIT_REQ);
-    if (!::SetKernelObjectSecurity(native(handle), DACL_SECURITY_INFORMATION, list.data())) return last_error();
-
+    // Where the file system holds no permissions, there is nothing to keep.
+    if (const auto error = copy_list(native(handle), native(like.get())); error && error != std::errc::not_supported)
+      return error;
     constexpr DWORD kHiding = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
     if ((basic.FileAttributes & kHiding) == 0) return {};
     FILE_BASIC_INFO hidden{};  // times of 0 stay
@@ -275,6 +296,7 @@ class Win32System final : public System {
     status = {};
     OpenFile opened(*this);
     const std::wstring name = wide(path);
+    if (is_device(name)) return status.type = Type::Other, std::error_code();
     const auto look = [&](DWORD flags) {
       opened.close();
       return open(name, FILE_READ_ATTRIBUTES, kShared, OPEN_EXISTING, kAnyType | flags, opened.handle());
@@ -292,15 +314,15 @@ class Win32System final : public System {
     if (error == std::errc::no_such_file_or_directory || error == std::errc::not_a_directory ||
         error == std::errc::operation_would_block)
       return {};
-    if (error || (error = this->status(opened.get(), status))) return error;
+    if (error || (error = this->status(opened.get(), status)) || status.type != Type::Plain) return error;
+    FILE_BASIC_INFO info{};
+    if (!::GetFileInformationByHandleEx(native(opened.get()), FileBasicInfo, &info, sizeof info)) return last_error();
     const auto may = [&](const std::wstring& at, DWORD access) {
       OpenFile tried(*this);
       const auto refused = open(at, access, kShared, OPEN_EXISTING, kAnyType, tried.handle());
       return refused != std::errc::permission_denied && refused != std::errc::read_only_file_system;
     };
-    if (status.type != Type::Plain) return {};
-    const DWORD attributes = ::GetFileAttributesW(prefixed(name).c_str());
-    status.writable = (attributes & FILE_ATTRIBUTE_READONLY) == 0 && may(name, GENERIC_WRITE);
+    status.writable = (info.FileAttributes & FILE_ATTRIBUTE_READONLY) == 0 && may(name, GENERIC_WRITE);
     const std::wstring whole = full(name);
     status.replaceable = may(name, DELETE) && may(whole.substr(0, whole.rfind(L'\\') + 1), FILE_ADD_FILE);
     return {};
@@ -319,8 +341,9 @@ class Win32System final : public System {
     status.size = whole(info.nFileSizeHigh, info.nFileSizeLow);
     status.links = info.nNumberOfLinks;
     status.identity = {info.dwVolumeSerialNumber, whole(info.nFileIndexHigh, info.nFileIndexLow)};
-    if (status.identity[1] == 0)  // some servers tell no file from another: then its path must
-      status.identity[1] = std::hash<std::wstring>()(final_path(native(handle)));
+    // Some servers and file systems have no such number for a file: then its path tells it from another.
+    if (status.identity[1] == 0 || status.identity[1] == ~std::uint64_t{0})
+      status.identity[1] = std::hash<std::wstring>()(folded(final_path(native(handle))));
     status.changed = std::max(since_1601(times.ChangeTime), since_1601(times.LastWriteTime));
     return {};
   }
@@ -329,6 +352,7 @@ class Win32System final : public System {
   std::string owner_of(const std::string&) override { return ""; }
 
   std::error_code without_links(const std::string& path, std::string& real) override {
+    if (is_device(wide(path))) return real = narrow(full(wide(path))), std::error_code();
     OpenFile opened(*this);
     constexpr DWORD kItself = kAnyType | FILE_FLAG_OPEN_REPARSE_POINT;
     auto error = open(wide(path), FILE_READ_ATTRIBUTES, kShared, OPEN_EXISTING, kItself, opened.handle());
@@ -337,16 +361,15 @@ class Win32System final : public System {
     opened.close();
     error = open(wide(path), FILE_READ_ATTRIBUTES, kShared, OPEN_EXISTING, kAnyType, opened.handle());
     if (error) return error;
-    real = narrow(final_path(native(opened.get())));
-    return real.empty() ? last_error() : std::error_code();
+    const std::wstring final = final_path(native(opened.get()));
+    if (final.empty()) return last_error();
+    return real = narrow(final), std::error_code();
   }
 
   std::error_code place_of(const std::string& path, std::string& place) override {
-    std::wstring name = full(wide(path));
+    const std::wstring name = full(wide(path));
     if (name.empty()) return last_error();
-    ::CharUpperBuffW(name.data(), static_cast<DWORD>(name.size()));
-    place = narrow(name);
-    return {};
+    return place = narrow(folded(name)), std::error_code();
   }
 
   // ReplaceFile would have a moment without the name, a copy one with half the content.
@@ -368,8 +391,9 @@ class Win32System final : public System {
   std::error_code flush_folder_of(const std::string&) override { return {}; }
 
   std::error_code current_folder(std::string& folder) override {
-    folder = narrow(answer([](wchar_t* text, DWORD size) { return ::GetCurrentDirectoryW(size, text); }));
-    return folder.empty() ? last_error() : std::error_code();
+    const std::wstring path = answer([](wchar_t* text, DWORD size) { return ::GetCurrentDirectoryW(size, text); });
+    if (path.empty()) return last_error();
+    return folder = narrow(path), std::error_code();
   }
 
   std::error_code change_folder(const std::string& folder) override {
@@ -383,6 +407,20 @@ class Win32System final : public System {
   void pause(std::chrono::milliseconds time) override { ::Sleep(static_cast<DWORD>(time.count())); }
 
  private:
+  static std::error_code copy_list(HANDLE to, HANDLE from) {
+    DWORD size = 0;
+    ::GetKernelObjectSecurity(from, DACL_SECURITY_INFORMATION, nullptr, 0, &size);
+    std::vector<char> list(size);
+    SECURITY_DESCRIPTOR_CONTROL control = 0;
+    DWORD revision = 0;
+    if (!::GetKernelObjectSecurity(from, DACL_SECURITY_INFORMATION, list.data(), size, &size) ||
+        !::GetSecurityDescriptorControl(list.data(), &control, &revision))
+      return last_error();
+    // Entries that came from the folder stay known as such only where that is asked for.
+    if ((control & SE_DACL_AUTO_INHERITED) != 0)
+      ::SetSecurityDescriptorControl(list.data(), SE_DACL_AUTO_INHERIT_REQ, SE_DACL_AUTO_INHERIT_REQ);
+    return checked(::SetKernelObjectSecurity(to, DACL_SECURITY_INFORMATION, list.data()));
+  }
   static DWORD capped(std::size_t size) { return static_cast<DWORD>(std::min<std::size_t>(size, 1u << 30)); }
 };
 

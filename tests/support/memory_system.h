@@ -4,7 +4,6 @@
 
 #include <chrono>
 #include <cstdint>
-#include <functional>
 #include <initializer_list>
 #include <map>
 #include <memory>
@@ -56,9 +55,6 @@ class MemorySystem : public file::System {
   int open_handles() const { return static_cast<int>(handles_.size()); }
   std::string absolute(const std::string& path) const;
 
-  // What others do while the program waits.
-  std::function<void()> meanwhile = [] {};
-
   std::error_code open_read(const std::string& path, file::Handle& handle) override;
   std::error_code create_new(const std::string& path, file::Access access, file::Handle& handle) override;
   std::error_code exclude_others(const std::string& path, file::Handle& handle) override;
@@ -79,7 +75,7 @@ class MemorySystem : public file::System {
   std::error_code change_folder(const std::string& folder) override;
   std::error_code change_drive(char) override { return {}; }
   std::string path_in_file(const std::string& bytes) override { return bytes; }
-  void pause(std::chrono::milliseconds) override { meanwhile(); }
+  void pause(std::chrono::milliseconds) override {}
 
  private:
   std::shared_ptr<File> find(const std::string& absolute_path) const;  // null: there is none

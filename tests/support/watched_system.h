@@ -48,6 +48,7 @@ class WatchedSystem final : public file::System {
 
   std::function<std::optional<Instead>(const CallInfo&)> before = [](const CallInfo&) { return std::nullopt; };
   std::function<void(const CallInfo&)> after = [](const CallInfo&) {};  // of calls that succeeded
+  std::function<void()> waiting = [] {};                                // what others do while the program waits
 
   using Error = std::error_code;
   using Path = const std::string&;
@@ -99,7 +100,7 @@ class WatchedSystem final : public file::System {
   Error change_folder(Path folder) override { return pass({Call::ChangeFolder, folder}, &System::change_folder, folder); }
   Error change_drive(char letter) override { return pass({Call::ChangeDrive}, &System::change_drive, letter); }
   std::string path_in_file(const std::string& bytes) override { return inner_.path_in_file(bytes); }
-  void pause(std::chrono::milliseconds time) override { inner_.pause(time); }
+  void pause(std::chrono::milliseconds time) override { waiting(), inner_.pause(time); }
 
  private:
   template <typename... Parameters, typename... Arguments>
