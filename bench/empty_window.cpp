@@ -19,8 +19,8 @@ int main() {
   kind.lpszClassName = L"EmptyWindow";
   ::RegisterClassExW(&kind);
   constexpr int kWidth = 650, kHeight = 620;
-  const HWND window = ::CreateWindowExW(0, kind.lpszClassName, L"Empty", WS_OVERLAPPEDWINDOW, 100, 50, kWidth, kHeight, nullptr,
-                                        nullptr, kind.hInstance, nullptr);
+  const HWND window = ::CreateWindowExW(0, kind.lpszClassName, L"Empty", WS_OVERLAPPEDWINDOW, 100, 50, kWidth, kHeight,
+                                        nullptr, nullptr, kind.hInstance, nullptr);
   ::ShowWindow(window, SW_SHOWNORMAL);
   ::UpdateWindow(window);
   for (MSG message; ::GetMessageW(&message, nullptr, 0, 0) > 0;) ::DispatchMessageW(&message);
