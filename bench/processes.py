@@ -75,10 +75,10 @@ class Program:
     the one that it came to when it was started for the first time. Looked at is a strip from top to bottom, through the
     list and the buttons, as that is quick, and once the strip is right the whole."""
 
-    def __init__(self, screen, path):
-        self.screen, self.path, self.pid = screen, path, None
+    def __init__(self, screen, *command, database="bench.mdb", **variables):
+        self.screen, self.command, self.database, self.pid = screen, command, database, None
         self.environment = {k: v for k, v in os.environ.items() if not k.startswith(("QT_", "WAYLAND_"))}
-        self.environment["DISPLAY"] = screen.name
+        self.environment.update(variables, DISPLAY=screen.name)
         self.start()
         wait_for("the window", screen.window, .01)
         place = screen.window().get_geometry()
@@ -90,10 +90,10 @@ class Program:
 
     def start(self):
         with open("sorptemp.dat", "w") as hand_over:
-            hand_over.write("bench.mdb")
-        silent = [(os.POSIX_SPAWN_OPEN, 2, os.devnull, os.O_WRONLY, 0)]
+            hand_over.write(self.database)
+        silent = [(os.POSIX_SPAWN_OPEN, stream, os.devnull, os.O_RDWR, 0) for stream in range(3)]
         begin = time.perf_counter()
-        self.pid = os.posix_spawn(self.path, [self.path], self.environment, file_actions=silent)
+        self.pid = os.posix_spawnp(self.command[0], self.command, self.environment, file_actions=silent)
         return begin
 
     def end(self):
@@ -138,17 +138,23 @@ class Program:
         wait_for("the program to be idle", idle, .02)
 
 
+def interleaved_starts(both, count):
+    """Median seconds from the start to the painted window of each."""
+    times = {p: [] for p in both}
+    for i in range(count):
+        for p in both if i % 2 else both[::-1]:
+            times[p].append(p.seconds_to_start())
+    return [statistics.median(times[p]) for p in both]
+
+
 def compare(screen, program, plain):
     """Seconds from the start to the painted window, and KiB of memory, of the program and of the plain one."""
     both = (Program(screen, program), Program(screen, plain))
-    times, memories = {p: [] for p in both}, {p: [] for p in both}
-    for i in range(STARTS):
-        for p in both if i % 2 else both[::-1]:
-            times[p].append(p.seconds_to_start())
+    memories = {p: [] for p in both}
+    median_times = interleaved_starts(both, STARTS)
     for _ in range(MEMORIES):
         for p in both:
             memories[p].append(p.memory())
-    median_times = [statistics.median(times[p]) for p in both]
     (rss, pss), (plain_rss, plain_pss) = ([statistics.median(sizes) for sizes in zip(*memories[p])] for p in both)
     return {"start": median_times[0], "plain start": median_times[1], "rss": rss, "plain rss": plain_rss, "pss": pss,
             "plain pss": plain_pss}

@@ -1,6 +1,7 @@
-# Sourced. The package of the compiler that CXX names, and install_missing PACKAGE..., which installs what is not there yet, as
-# root or with sudo.
+# Sourced. The packages of the compiler that CXX names and of the one for Windows, and install_missing PACKAGE..., which
+# installs what is not there yet, as root or with sudo.
 case "${CXX:-}" in *clang*) compiler=clang ;; *) compiler=g++ ;; esac
+windows_compiler=g++-mingw-w64-x86-64-posix
 
 install_missing() {
   local missing=() package

@@ -55,6 +55,8 @@ def attempt(command, cwd, stdin, limit):
         told, complaints = out.read(), err.read()
     if status < 0 or (status > 0 and COMPLAINT.search(complaints)):
         raise WineFailed("status %d: %s: %s" % (status, " ".join(command), complaints.decode(errors="replace").strip()))
+    if status == 0 and b"\nwine: Unhandled" in b"\n" + complaints:
+        status = 1  # it crashed, whatever status wine makes of that
     return status, told, complaints
 
 

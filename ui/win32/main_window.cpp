@@ -15,13 +15,14 @@ namespace {
 
 constexpr const wchar_t* kClass = L"KelmarDatabaseEditor";
 constexpr const wchar_t* kFace = L"Microsoft Sans Serif";
-constexpr DWORD kStyle = WS_OVERLAPPEDWINDOW;
+constexpr DWORD kStyle = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN;
 constexpr int kUsualDpi = USER_DEFAULT_SCREEN_DPI;
-constexpr int kScales[] = {96, 120, 144, 168, 192};  // dots an inch at which captions are measured
-constexpr double kSmallest = .6;                     // of the size at the start
-constexpr int kFirstId = 100;                        // of the controls: above those that the system knows
-constexpr int kPickRows = 10;                        // of an open combo box
-constexpr int kTextMargin = 6;                       // pixels beside the text of a box
+constexpr double kPointsPerInch = 72;
+constexpr double kRoom = 1.02;    // for captions, which may grow a little more than their window
+constexpr double kSmallest = .6;  // of the size at the start
+constexpr int kFirstId = 100;     // of the controls: above those that the system knows
+constexpr int kPickRows = 10;     // of an open combo box
+constexpr int kTextMargin = 6;    // pixels beside the text of a box
 constexpr int kTipWidth = 600;
 
 int scaled(int value, double factor) { return static_cast<int>(std::ceil(value * factor)); }
@@ -60,6 +61,19 @@ HWND edit_of(HWND combo) {
   return ::GetComboBoxInfo(combo, &info) ? info.hwndItem : nullptr;
 }
 
+// A combo box counts its open list in; closed it is as high as its text, and something around that.
+void place_combo(HWND combo, const Place& place) {
+  const int list = kPickRows * static_cast<int>(::SendMessageW(combo, CB_GETITEMHEIGHT, 0, 0));
+  const auto closed_with = [&](int text) {
+    ::SendMessageW(combo, CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), std::max(1, text));
+    ::SetWindowPos(combo, nullptr, place.left, place.top, place.width, place.height + list, SWP_NOZORDER | SWP_NOACTIVATE);
+    RECT closed{};
+    ::GetWindowRect(combo, &closed);
+    return static_cast<int>(closed.bottom - closed.top);
+  };
+  closed_with(2 * place.height - closed_with(place.height));
+}
+
 // For as long as it lives, what to measure with a font.
 struct Measure {
   explicit Measure(HFONT font) : before(::SelectObject(dc, font)) {}
@@ -91,27 +105,28 @@ MainWindow::MainWindow(Form& form)
     : form_(form),
       background_(::CreateSolidBrush(color_of(form.definition().background))),
       window_(create_window(form.definition(), background_, window_procedure)),
-      views_(form.definition().controls.size()),
-      layout_(
-          form.definition(), [this](const Font& font, std::string_view text) { return text_width(font, text); },
-          Measure(font_of({}, 1. * kUsualDpi / kPointsPerInch)).line(), available()) {
-  ::SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+      views_(form.definition().controls.size()) {
   build_menu();
+  measure();
+  const UINT dpi = ::GetDpiForWindow(window_);
+  const double scale = 1. * dpi / kUsualDpi;
+  const Size size = framed({scaled(layout_->start().width, scale), scaled(layout_->start().height, scale)}, dpi);
+  const RECT work = work_area(window_);  // in the middle of which it stands
+  ::SetWindowPos(window_, nullptr, std::max(work.left, (work.left + work.right - size.width) / 2),
+                 std::max(work.top, (work.top + work.bottom - size.height) / 2), size.width, size.height,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
   // One order is that of the focus and of what lies above what; and a label comes before its box, whose name it is to
   // whoever knows no better.
   std::map<int, int> by_tab;
   for (int i = 0; i < controls(); ++i)
     if (def(i).tab >= 0) by_tab[def(i).tab] = i;
-  for (const auto& [tab, control] : by_tab) {
-    if (const int label = def(control).label; label >= 0 && view(label).window == nullptr) build(label);
-    build(control);
-  }
+  const auto append = [this](int control) {
+    if (control >= 0 && std::ranges::count(order_, control) == 0) order_.push_back(control);
+  };
+  for (const auto& [tab, control] : by_tab) append(def(control).label), append(control);
   for (int i = 0; i < controls(); ++i)
-    if (def(i).kind != Kind::MenuItem && view(i).window == nullptr) build(i);
-  build_tooltip();
-  ::CoCreateInstance(CLSID_AccPropServices, nullptr, CLSCTX_INPROC_SERVER, IID_IAccPropServices,
-                     reinterpret_cast<void**>(&names_));
-  focus_ = control(by_tab.begin()->second);
+    if (def(i).kind != Kind::MenuItem) append(i);
+  ::SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
 }
 
 MainWindow::~MainWindow() {
@@ -137,8 +152,7 @@ void MainWindow::build_menu() {
 
 void MainWindow::build(int control) {
   const ControlDef& def = this->def(control);
-  // Each is a group of its own: arrow keys stay inside it.
-  constexpr DWORD kBox = WS_CHILD | WS_TABSTOP | WS_GROUP;
+  constexpr DWORD kBox = WS_CHILD | WS_TABSTOP;
   const wchar_t* kind = L"STATIC";
   DWORD style = WS_CHILD | SS_NOPREFIX | SS_NOTIFY;  // so that there is a tooltip
   switch (def.kind) {
@@ -162,10 +176,19 @@ void MainWindow::build(int control) {
       break;
     case Kind::MenuItem: return;
   }
-  HWND& built = view(control).window;
-  built = ::CreateWindowExW(0, kind, L"", style, 0, 0, 0, 0, window_,
+  View& shown = view(control);
+  if (def.kind != Kind::ComboBox) shown.text = from_bytes(form_.window()[control].text);  // which is made without one
+  HWND& built = shown.window;
+  built = ::CreateWindowExW(0, kind, written(control, shown.text).c_str(), style, 0, 0, 0, 0, window_,
                             reinterpret_cast<HMENU>(static_cast<INT_PTR>(kFirstId + control)), ::GetModuleHandleW(nullptr),
                             nullptr);
+  const auto place = std::ranges::find(order_, control);
+  const auto is_built = [this](int other) { return view(other).window != nullptr; };
+  if (std::any_of(place + 1, order_.end(), is_built)) {
+    const auto before = std::find_if(std::reverse_iterator(place), order_.rend(), is_built);
+    ::SetWindowPos(built, before != order_.rend() ? view(*before).window : HWND_TOP, 0, 0, 0, 0,
+                   SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  }
   const auto self = reinterpret_cast<DWORD_PTR>(this);
   if (def.kind == Kind::TextBox) ::SendMessageW(built, EM_SETLIMITTEXT, 0, 0);
   if (def.kind == Kind::ComboBox) {
@@ -175,23 +198,30 @@ void MainWindow::build(int control) {
   }
   if (def.kind == Kind::ListBox || def.kind == Kind::ComboBox)
     ::SetWindowSubclass(built, control_procedure, static_cast<UINT_PTR>(control), self);
+  if (tooltip_ != nullptr) add_tooltip(built);
 }
 
-void MainWindow::build_tooltip() {
+// What nobody needs before the window is painted.
+void MainWindow::describe() {
+  ::CoCreateInstance(CLSID_AccPropServices, nullptr, CLSCTX_INPROC_SERVER, IID_IAccPropServices,
+                     reinterpret_cast<void**>(&names_));
+  name_boxes();
   tooltip_ = ::CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, 0, 0, 0, 0,
                                window_, nullptr, ::GetModuleHandleW(nullptr), nullptr);
   ::SendMessageW(tooltip_, TTM_SETMAXTIPWIDTH, 0, kTipWidth);
-  for (const View& view : views_) {
-    if (view.window == nullptr) continue;
-    const HWND edit = edit_of(view.window);
-    TTTOOLINFOW tool{};
-    tool.cbSize = TTTOOLINFOW_V1_SIZE;
-    tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
-    tool.hwnd = window_;
-    tool.uId = reinterpret_cast<UINT_PTR>(edit != nullptr ? edit : view.window);
-    tool.lpszText = LPSTR_TEXTCALLBACKW;
-    ::SendMessageW(tooltip_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
-  }
+  for (const View& view : views_)
+    if (view.window != nullptr) add_tooltip(view.window);
+}
+
+void MainWindow::add_tooltip(HWND control) {
+  const HWND edit = edit_of(control);
+  TTTOOLINFOW tool{};
+  tool.cbSize = TTTOOLINFOW_V1_SIZE;
+  tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+  tool.hwnd = window_;
+  tool.uId = reinterpret_cast<UINT_PTR>(edit != nullptr ? edit : control);
+  tool.lpszText = LPSTR_TEXTCALLBACKW;
+  ::SendMessageW(tooltip_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
 }
 
 // The text of a box or label of which not all is seen.
@@ -219,14 +249,19 @@ HFONT MainWindow::font_of(const Font& font, double pixels_per_point) {
   return made;
 }
 
-// The widest that comes out on any screen, in pixels of the usual one: the letters of small fonts are fitted to the pixels.
-double MainWindow::text_width(const Font& font, std::string_view text) {
-  double widest = 0;
-  for (const int dpi : kScales) {
-    const Measure measure(font_of(font, dpi / kPointsPerInch));
-    widest = std::max(widest, 1. * measure.width(from_bytes(text)) * kUsualDpi / dpi);
-  }
-  return widest;
+// For the screen on which the window lies, in pixels of the usual one: the letters of small fonts are fitted to the pixels.
+void MainWindow::measure() {
+  const UINT dpi = ::GetDpiForWindow(window_);
+  const double scale = 1. * dpi / kUsualDpi;
+  const RECT work = work_area(window_);
+  const Size frame = framed({}, dpi);
+  const Size available{static_cast<int>((work.right - work.left - frame.width) / scale),
+                       static_cast<int>((work.bottom - work.top - frame.height) / scale)};
+  const auto font = [&](const Font& of) { return Measure(font_of(of, dpi / kPointsPerInch)); };
+  layout_.emplace(
+      form_.definition(),
+      [&](const Font& of, std::string_view text) { return kRoom * font(of).width(from_bytes(text)) / scale; },
+      font({}).line() / scale, available);
 }
 
 Size MainWindow::area() const {
@@ -242,25 +277,9 @@ Size MainWindow::framed(Size area, UINT dpi) const {
   return {frame.right - frame.left, frame.bottom - frame.top};
 }
 
-// For the client area, in pixels of the usual screen.
-Size MainWindow::available() const {
-  const RECT work = work_area(window_);
-  const UINT dpi = ::GetDpiForWindow(window_);
-  const Size frame = framed({}, dpi);
-  return {::MulDiv(work.right - work.left - frame.width, kUsualDpi, static_cast<int>(dpi)),
-          ::MulDiv(work.bottom - work.top - frame.height, kUsualDpi, static_cast<int>(dpi))};
-}
-
 void MainWindow::show() {
   push();
-  const UINT dpi = ::GetDpiForWindow(window_);
-  const double scale = 1. * dpi / kUsualDpi;
-  const Size size = framed({scaled(layout_.start().width, scale), scaled(layout_.start().height, scale)}, dpi);
-  const RECT work = work_area(window_);
-  ::SetWindowPos(window_, nullptr, std::max(work.left, (work.left + work.right - size.width) / 2),
-                 std::max(work.top, (work.top + work.bottom - size.height) / 2), size.width, size.height,
-                 SWP_NOZORDER | SWP_NOACTIVATE);
-  arrange();
+  focus_ = control(*std::ranges::find_if(order_, [this](int i) { return def(i).tab >= 0; }));
   ::ShowWindow(window_, SW_SHOWNORMAL);
   ::UpdateWindow(window_);
 }
@@ -268,32 +287,20 @@ void MainWindow::show() {
 void MainWindow::arrange() {
   const Size inside = area();
   if (inside.width <= 0 || inside.height <= 0) return;  // it is an icon now
-  const double pixels_per_point = kUsualDpi / kPointsPerInch * layout_.font_factor(inside);
-  const std::vector<Place> places = layout_.places(form_.window(), inside);
+  const double pixels_per_point = kUsualDpi / kPointsPerInch * layout_->font_factor(inside);
+  const std::vector<Place> places = layout_->places(form_.window(), inside);
   for (int i = 0; i < controls(); ++i) {
-    const HWND moved = view(i).window;
-    if (moved == nullptr) continue;
+    View& shown = view(i);
+    if (shown.window == nullptr || !shown.shown) continue;
+    const HFONT font = font_of(def(i).font, pixels_per_point);
     const Place& place = places[static_cast<std::size_t>(i)];
-    const auto font = reinterpret_cast<WPARAM>(font_of(def(i).font, pixels_per_point));
-    if (static_cast<WPARAM>(::SendMessageW(moved, WM_GETFONT, 0, 0)) != font) ::SendMessageW(moved, WM_SETFONT, font, TRUE);
-    const bool combo = def(i).kind == Kind::ComboBox;  // which counts its open list in
-    const int list = combo ? kPickRows * static_cast<int>(::SendMessageW(moved, CB_GETITEMHEIGHT, 0, 0)) : 0;
-    const auto move = [&] {
-      ::SetWindowPos(moved, nullptr, place.left, place.top, place.width, place.height + list, SWP_NOZORDER | SWP_NOACTIVATE);
-    };
-    if (!combo) {
-      move();
-      continue;
-    }
-    // Closed it is as high as its text, and something around that.
-    const auto closed_with = [&](int text) {
-      ::SendMessageW(moved, CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), std::max(1, text));
-      move();
-      RECT closed{};
-      ::GetWindowRect(moved, &closed);
-      return static_cast<int>(closed.bottom - closed.top);
-    };
-    closed_with(2 * place.height - closed_with(place.height));
+    const bool same = std::exchange(shown.font, font) == font;
+    if (!same) ::SendMessageW(shown.window, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
+    if (std::exchange(shown.place, place) == place && same) continue;
+    if (def(i).kind == Kind::ComboBox)
+      place_combo(shown.window, place);
+    else
+      ::SetWindowPos(shown.window, nullptr, place.left, place.top, place.width, place.height, SWP_NOZORDER | SWP_NOACTIVATE);
   }
 }
 
@@ -321,7 +328,7 @@ LRESULT MainWindow::receive(UINT message, WPARAM w, LPARAM l) {
     case WM_GETMINMAXINFO: {
       const UINT dpi = ::GetDpiForWindow(window_);
       const double scale = kSmallest * dpi / kUsualDpi;
-      const Size least = framed({scaled(layout_.start().width, scale), scaled(layout_.start().height, scale)}, dpi);
+      const Size least = framed({scaled(layout_->start().width, scale), scaled(layout_->start().height, scale)}, dpi);
       reinterpret_cast<MINMAXINFO*>(l)->ptMinTrackSize = {least.width, least.height};
       return 0;
     }
@@ -333,16 +340,16 @@ LRESULT MainWindow::receive(UINT message, WPARAM w, LPARAM l) {
       return TRUE;
     }
     case WM_DPICHANGED: {
+      measure();
       const RECT& wanted = *reinterpret_cast<const RECT*>(l);
       ::SetWindowPos(window_, nullptr, wanted.left, wanted.top, wanted.right - wanted.left, wanted.bottom - wanted.top,
                      SWP_NOZORDER | SWP_NOACTIVATE);
+      arrange();
       return 0;
     }
     case WM_ACTIVATE:
-      if (LOWORD(w) == WA_INACTIVE)
-        focus_ = ::GetFocus();
-      else
-        ::SetFocus(focus_);
+      if (const HWND focus = ::GetFocus(); LOWORD(w) == WA_INACTIVE && focus != nullptr) focus_ = focus;
+      if (LOWORD(w) != WA_INACTIVE && HIWORD(w) == 0) ::SetFocus(focus_);  // not while it is an icon
       return 0;
     case WM_CLOSE:
       if (running_) return 0;
@@ -392,6 +399,7 @@ LRESULT CALLBACK MainWindow::control_procedure(HWND window, UINT message, WPARAM
   if (main.def(control).kind == Kind::ListBox) return main.receive_in_list(control, window, message, w, l);
   const bool open = ::SendMessageW(main.control(control), CB_GETDROPPEDSTATE, 0, 0) != 0;
   if (message == WM_MOUSEWHEEL && !open) return 0;
+  if (message == WM_CHAR && (w == VK_RETURN || w == VK_ESCAPE)) return 0;  // of the key that closed it: no sound
   return ::DefSubclassProc(window, message, w, l);
 }
 
@@ -429,28 +437,42 @@ LRESULT MainWindow::receive_in_list(int control, HWND list, UINT message, WPARAM
 
 bool MainWindow::take_message() {
   MSG message;
+  if (tooltip_ == nullptr && !::PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE)) describe();
   if (::GetMessageW(&message, nullptr, 0, 0) <= 0) return false;
   handle(message);
   return true;
 }
 
 void MainWindow::handle(MSG& message) {
-  if (!press(message) && !::IsDialogMessageW(window_, &message)) {
+  if (!press(message)) {
     ::TranslateMessage(&message);
     ::DispatchMessageW(&message);
   }
   settle_combo();
 }
 
-// Enter presses a button and shows a species again; it leaves a box as it is.
+// Tab goes on, Shift with it back. Enter presses a button and shows a species again; it leaves a box as it is, and so does
+// Esc.
 bool MainWindow::press(const MSG& message) {
   const int control = control_of(message.hwnd);
-  if (message.message != WM_KEYDOWN || message.wParam != VK_RETURN || control < 0) return false;
+  const WPARAM key = message.wParam;
+  if (message.message != WM_KEYDOWN || (key != VK_TAB && key != VK_RETURN && key != VK_ESCAPE)) return false;
+  if (key == VK_TAB) return move_focus(control, ::GetKeyState(VK_SHIFT) < 0), true;
+  if (control < 0) return false;
   const HWND pressed = view(control).window;
   if (def(control).kind == Kind::ComboBox && ::SendMessageW(pressed, CB_GETDROPPEDSTATE, 0, 0) != 0) return false;
-  if (def(control).kind == Kind::Button) ::SendMessageW(pressed, BM_CLICK, 0, 0);
-  if (def(control).kind == Kind::ListBox) choose(control, static_cast<int>(::SendMessageW(pressed, LB_GETCURSEL, 0, 0)));
+  if (key == VK_RETURN && def(control).kind == Kind::Button) run(control);
+  if (key == VK_RETURN && def(control).kind == Kind::ListBox)
+    choose(control, static_cast<int>(::SendMessageW(pressed, LB_GETCURSEL, 0, 0)));
   return true;
+}
+
+void MainWindow::move_focus(int from, bool back) {
+  const HWND next = ::GetNextDlgTabItem(window_, from < 0 ? nullptr : view(from).window, back);
+  const int control = control_of(next);
+  ::SendMessageW(window_, WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS), 0);  // keys are in use: it is to be seen
+  ::SetFocus(next);
+  if (control >= 0 && def(control).kind == Kind::TextBox) ::SendMessageW(next, EM_SETSEL, 0, -1);
 }
 
 int MainWindow::control_of(HWND window) const {
@@ -510,40 +532,44 @@ void MainWindow::run(int control) {
   if (form_.window().ended) ::SendMessageW(window_, WM_CLOSE, 0, 0);
 }
 
+// What is hidden is built, or brought up to date, when it is shown.
 void MainWindow::push() {
   pushing_ = true;
-  bool moved = false;
-  for (int i = 0; i < controls(); ++i) {
+  std::vector<const View*> changed;
+  for (const int i : order_) {
     const Control& now = form_.window()[i];
     View& shown = view(i);
-    if (shown.window == nullptr) continue;
+    if (now.shown && shown.window == nullptr) build(i);
+    if (now.shown != std::exchange(shown.shown, now.shown)) changed.push_back(&shown);
+    if (!now.shown) continue;
     show_entries(i, now);
     if (const std::wstring text = def(i).path ? from_path(now.text) : from_bytes(now.text); text != shown.text)
       show_text(i, text);
-    moved |= now.shown != shown.shown;
-    shown.shown = now.shown;
   }
-  if (moved) arrange();  // what covers what
-  for (const View& shown : views_)
-    if (shown.window != nullptr) ::ShowWindow(shown.window, shown.shown ? SW_SHOWNA : SW_HIDE);
+  if (!changed.empty()) arrange();  // what covers what
+  for (const View* shown : changed) ::ShowWindow(shown->window, shown->shown ? SW_SHOWNA : SW_HIDE);
   name_boxes();
   keep_focus();
   pushing_ = false;
+}
+
+// As a button takes it, to which one & marks a letter.
+std::wstring MainWindow::written(int control, std::wstring text) const {
+  if (def(control).kind == Kind::Button)
+    for (std::size_t at = 0; (at = text.find(L'&', at)) != text.npos; at += 2) text.insert(at, 1, L'&');
+  return text;
 }
 
 void MainWindow::show_text(int control, const std::wstring& text) {
   const bool pushing = std::exchange(pushing_, true);
   View& shown = view(control);
   shown.text = text;
-  std::wstring written = text;
-  if (def(control).kind == Kind::Button)
-    for (std::size_t at = 0; (at = written.find(L'&', at)) != written.npos; at += 2) written.insert(at, 1, L'&');
   if (def(control).kind == Kind::ComboBox) {
     const auto entry = std::ranges::find(shown.entries, form_.window()[control].text);
     const auto index = entry != shown.entries.end() ? entry - shown.entries.begin() : -1;
     ::SendMessageW(shown.window, CB_SETCURSEL, static_cast<WPARAM>(index), 0);
   }
-  ::SetWindowTextW(shown.window, written.c_str());
+  ::SetWindowTextW(shown.window, written(control, text).c_str());
   pushing_ = pushing;
 }
 
@@ -554,7 +580,7 @@ void MainWindow::show_entries(int control, const Control& now) {
   View& shown = view(control);
   if (now.entries != shown.entries) {
     shown.entries = now.entries;
-    ::SendMessageW(shown.window, WM_SETREDRAW, FALSE, 0);
+    if (list) ::SendMessageW(shown.window, WM_SETREDRAW, FALSE, 0);
     ::SendMessageW(shown.window, list ? LB_RESETCONTENT : CB_RESETCONTENT, 0, 0);
     ::SendMessageW(shown.window, list ? LB_INITSTORAGE : CB_INITSTORAGE, now.entries.size(), 0);
     const std::string* longest = nullptr;
@@ -567,11 +593,11 @@ void MainWindow::show_entries(int control, const Control& now) {
       const Measure measure(reinterpret_cast<HFONT>(::SendMessageW(shown.window, WM_GETFONT, 0, 0)));
       const int width = longest == nullptr ? 0 : measure.width(from_bytes(*longest)) + kTextMargin;
       ::SendMessageW(shown.window, LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(width), 0);
+      ::SendMessageW(shown.window, WM_SETREDRAW, TRUE, 0);
+      ::InvalidateRect(shown.window, nullptr, TRUE);
     } else {
       show_text(control, shown.text);  // which went with the entries
     }
-    ::SendMessageW(shown.window, WM_SETREDRAW, TRUE, 0);
-    ::InvalidateRect(shown.window, nullptr, TRUE);
   }
   if (list && ::SendMessageW(shown.window, LB_GETCURSEL, 0, 0) != now.selected)
     ::SendMessageW(shown.window, LB_SETCURSEL, static_cast<WPARAM>(now.selected), 0);
@@ -580,8 +606,8 @@ void MainWindow::show_entries(int control, const Control& now) {
 // For screen readers: a box by the text of its label, which changes, and by what the box holds.
 void MainWindow::name_boxes() {
   for (int i = 0; i < controls(); ++i) {
-    if (def(i).label < 0 || names_ == nullptr) continue;
-    const std::wstring& label = view(def(i).label).text;
+    if (def(i).label < 0 || view(i).window == nullptr || names_ == nullptr) continue;
+    const std::wstring label = from_bytes(form_.window()[def(i).label].text);
     if (label == view(i).name) continue;
     view(i).name = label;
     const std::wstring about = from_bytes(def(i).about);
@@ -603,7 +629,7 @@ void MainWindow::name(HWND box, const wchar_t* text, const wchar_t* about) {
 // A box that is hidden gives it to the next one.
 void MainWindow::keep_focus() {
   const int control = control_of(::GetFocus());
-  if (control >= 0 && !view(control).shown) ::SetFocus(::GetNextDlgTabItem(window_, view(control).window, FALSE));
+  if (control >= 0 && !view(control).shown) move_focus(control, false);
 }
 
 }  // namespace ui::win32

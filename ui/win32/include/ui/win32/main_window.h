@@ -7,6 +7,7 @@
 #include <commctrl.h>
 
 #include <map>
+#include <optional>
 #include <string>
 #include <tuple>
 #include <vector>
@@ -35,7 +36,7 @@ class MainWindow {
   void handle(MSG& message);
 
   HWND handle() const { return window_; }
-  // The window of a control; null for a menu item.
+  // The window of a control; null for a menu item, and as long as it has not been shown.
   HWND control(int control) const { return views_[static_cast<std::size_t>(control)].window; }
 
  private:
@@ -46,6 +47,8 @@ class MainWindow {
     std::vector<std::string> entries{};  // of a list or combo box
     std::wstring name{};                 // for a screen reader
     bool shown = false;
+    Place place{};
+    HFONT font = nullptr;
   };
 
   static LRESULT CALLBACK window_procedure(HWND window, UINT message, WPARAM w, LPARAM l);
@@ -53,21 +56,24 @@ class MainWindow {
   LRESULT receive(UINT message, WPARAM w, LPARAM l);
   LRESULT receive_in_list(int control, HWND list, UINT message, WPARAM w, LPARAM l);
   bool press(const MSG& message);
+  void move_focus(int from, bool back);
   void notified(int control, UINT notice);
   void show_tip(NMTTDISPINFOW& asked);
 
   void build_menu();
   void build(int control);
-  void build_tooltip();
+  void describe();
+  void add_tooltip(HWND control);
+  void measure();
   void arrange();
   HFONT font_of(const Font& font, double pixels_per_point);
-  double text_width(const Font& font, std::string_view text);
 
   void choose(int control, int entry);
   void settle_combo();
   void typed(int control);
   void run(int control);
   void show_entries(int control, const Control& now);
+  std::wstring written(int control, std::wstring text) const;
   void show_text(int control, const std::wstring& text);
   void name_boxes();
   void name(HWND box, const wchar_t* text, const wchar_t* about);
@@ -79,9 +85,6 @@ class MainWindow {
   int control_of(HWND window) const;  // also of a part of it; -1: none
   Size area() const;
   Size framed(Size area, UINT dpi) const;
-  Size available() const;
-
-  static constexpr double kPointsPerInch = 72;
 
   Form& form_;
   const HBRUSH background_;
@@ -90,8 +93,9 @@ class MainWindow {
   HMENU menu_ = nullptr;
   HWND focus_ = nullptr;  // where it was when the window was last in use
   std::vector<View> views_;
+  std::vector<int> order_;                              // of the controls, from the first in the focus and above all
   std::map<std::tuple<int, bool, bool>, HFONT> fonts_;  // by height in pixels, bold, italic
-  const Layout layout_;
+  std::optional<Layout> layout_;
   TypeAhead letters_;
   IAccPropServices* names_ = nullptr;
   std::wstring tip_;
