@@ -1,5 +1,10 @@
-// What Windows is on its own: a program that shows one empty window, as large as that of the editor.
+// What Windows is on its own: a program that shows one empty window, as large as that of the editor; with the libraries that
+// the editor has, or without.
 #include <windows.h>
+// After it.
+#include <commctrl.h>
+#include <objbase.h>
+#include <shlobj.h>
 
 namespace {
 
@@ -10,7 +15,14 @@ LRESULT CALLBACK receive(HWND window, UINT message, WPARAM w, LPARAM l) {
 
 }  // namespace
 
-int main() {
+int main([[maybe_unused]] int count, char**) {
+#ifdef KELMAR_SAME_LIBRARIES
+  ::InitCommonControls();
+  if (count > 1) {  // never: what is named here is loaded
+    ::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+    ::SHCreateItemFromParsingName(L"", nullptr, IID_IUnknown, nullptr);
+  }
+#endif
   WNDCLASSEXW kind{};
   kind.cbSize = sizeof kind;
   kind.lpfnWndProc = receive;

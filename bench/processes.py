@@ -138,13 +138,13 @@ class Program:
         wait_for("the program to be idle", idle, .02)
 
 
-def interleaved_starts(both, count):
+def interleaved_starts(programs, count):
     """Median seconds from the start to the painted window of each."""
-    times = {p: [] for p in both}
+    times = {p: [] for p in programs}
     for i in range(count):
-        for p in both if i % 2 else both[::-1]:
+        for p in programs if i % 2 else programs[::-1]:
             times[p].append(p.seconds_to_start())
-    return [statistics.median(times[p]) for p in both]
+    return [statistics.median(times[p]) for p in programs]
 
 
 def compare(screen, program, plain):
