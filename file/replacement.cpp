@@ -33,6 +33,14 @@ Status look_at(System& system, const std::string& path, Follow follow) {
   return status;
 }
 
+// The answer to keeping others from a file. Where the file system knows no way, nothing can be done.
+void require_excluded(std::error_code error, const std::string& path) {
+  if (error == std::errc::file_exists)
+    throw Refusal(named(path + kLock) +
+                  " is in the way: a lock of that name would be empty, and it is not. Move it away and " + "try again.");
+  if (error != std::errc::not_supported) require(error, "lock", path);
+}
+
 // Tries for about a second, until an attempt is true.
 template <typename Attempt>
 bool patiently(System& system, Attempt attempt) {
@@ -102,7 +110,7 @@ bool TemporaryFile::claim(Access access) {
     exclusion_.close();
     return false;
   }
-  if (excluded != std::errc::not_supported) require(excluded, "lock", path_);
+  require_excluded(excluded, path_);
   return true;
 }
 
@@ -202,7 +210,7 @@ void Replacement::exclude_others() {
     return error != std::errc::operation_would_block;
   });
   if (!done) throw Refusal(named(name_) + " is in use: another editor is saving it. Wait until it is done and try again.");
-  if (error != std::errc::not_supported) require(error, "lock", name_);
+  require_excluded(error, name_);
   look_at_target();  // again: while it was waited for, it may have been replaced
 }
 

@@ -17,8 +17,7 @@ namespace {
 // Whoever opens a file otherwise keeps it from being renamed or removed.
 constexpr DWORD kShared = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 constexpr DWORD kNoFolder = 0, kAnyType = FILE_FLAG_BACKUP_SEMANTICS;
-constexpr std::size_t kLongest = 248;              // characters of a path without a prefix, that of a folder included
-constexpr const wchar_t* kLock = L".kelmar-lock";  // after the name of the file that it guards
+constexpr std::size_t kLongest = 248;  // characters of a path without a prefix, that of a folder included
 
 HANDLE native(Handle handle) { return reinterpret_cast<HANDLE>(handle); }
 
@@ -148,8 +147,8 @@ bool is_link(HANDLE file) {
          (info.FileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 && IsReparseTagNameSurrogate(info.ReparseTag);
 }
 
-std::wstring final_path(HANDLE file) {
-  return unprefixed(answer([&](wchar_t* text, DWORD size) { return ::GetFinalPathNameByHandleW(file, text, size, 0); }));
+std::wstring final_path(HANDLE file, DWORD form = VOLUME_NAME_DOS) {
+  return unprefixed(answer([&](wchar_t* text, DWORD size) { return ::GetFinalPathNameByHandleW(file, text, size, form); }));
 }
 
 // The same for every spelling.
@@ -231,7 +230,7 @@ class Win32System final : public System {
     const std::wstring name = prefixed(full(wide(path)));
     // The one name of many; a folder that may not be listed does not tell it.
     const std::wstring one = answer([&](wchar_t* text, DWORD size) { return ::GetLongPathNameW(name.c_str(), text, size); });
-    const std::wstring lock = (one.empty() ? name : one) + kLock;
+    const std::wstring lock = (one.empty() ? name : one) + wide(kLock);
     constexpr DWORD kAccess = DELETE | FILE_READ_ATTRIBUTES, kNew = FILE_ATTRIBUTE_HIDDEN | FILE_FLAG_DELETE_ON_CLOSE;
     const auto error = open(lock, kAccess, 0, CREATE_NEW, kNew | FILE_FLAG_OPEN_REPARSE_POINT, handle);
     if (error != std::errc::file_exists) return error;
@@ -340,7 +339,10 @@ class Win32System final : public System {
     status.type = (info.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0 ? Type::Folder : Type::Plain;
     status.size = whole(info.nFileSizeHigh, info.nFileSizeLow);
     status.links = info.nNumberOfLinks;
-    status.identity = {info.dwVolumeSerialNumber, whole(info.nFileIndexHigh, info.nFileIndexLow)};
+    // Of two disks of which one is a copy of the other, the serial numbers are the same.
+    const std::wstring volume = final_path(native(handle), VOLUME_NAME_GUID);
+    status.identity = {info.dwVolumeSerialNumber ^ std::hash<std::wstring>()(volume.substr(0, volume.find(L'}'))),
+                       whole(info.nFileIndexHigh, info.nFileIndexLow)};
     // Some servers and file systems have no such number for a file: then its path tells it from another.
     if (status.identity[1] == 0 || status.identity[1] == ~std::uint64_t{0})
       status.identity[1] = std::hash<std::wstring>()(folded(final_path(native(handle))));

@@ -17,6 +17,9 @@ namespace file {
 
 using Handle = std::intptr_t;
 
+// Ends the name of the empty file by which others are kept from one, on a system that locks so.
+inline constexpr const char* kLock = ".kelmar-lock";
+
 enum class Type { Missing, Plain, Folder, Link, Other };
 
 // What is known of a file; for a missing one only `type` counts.
@@ -53,7 +56,8 @@ class System {
   virtual std::error_code create_new(const std::string& path, Access access, Handle& handle) = 0;
   // Keeps every other editor, in whatever folder, from the existing plain file of this name (a link is an error) until the
   // handle is closed. errc::operation_would_block while another has it; errc::not_supported where the file system knows no
-  // way. It does not keep this process from reading, renaming or removing it.
+  // way; errc::file_exists when somebody's own file has the name of the lock. It does not keep this process from reading,
+  // renaming or removing it.
   virtual std::error_code exclude_others(const std::string& path, Handle& handle) = 0;
 
   // Reads at most `size` bytes from `offset` on; `got` is 0 only at the end of the file.
