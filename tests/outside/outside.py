@@ -70,12 +70,12 @@ class Folder:
         except FileNotFoundError:
             return None
 
-    def play(self, story, before=(), timeout=20, memory=None):
+    def play(self, story, before=(), timeout=60, memory=None):
         """Runs the player, with at most `memory` bytes of data; gives its exit status and its lines."""
         return play(self.path, story, before, timeout, memory)
 
 
-def play(folder, story, before=(), timeout=20, memory=None):
+def play(folder, story, before=(), timeout=60, memory=None):
     if "ASAN_OPTIONS" in os.environ:
         memory = None  # a sanitizer takes terabytes of addresses
     limit = (lambda: resource.setrlimit(resource.RLIMIT_DATA, (memory, memory))) if memory else None
