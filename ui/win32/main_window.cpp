@@ -74,6 +74,12 @@ void place_combo(HWND combo, const Place& place) {
   closed_with(2 * place.height - closed_with(place.height));
 }
 
+// A text that the user has left is seen from there.
+void show_beginning(HWND edit) {
+  ::SendMessageW(edit, EM_SETSEL, 0, 0);
+  ::SendMessageW(edit, EM_SCROLLCARET, 0, 0);
+}
+
 // For as long as it lives, what to measure with a font.
 struct Measure {
   explicit Measure(HFONT font) : before(::SelectObject(dc, font)) {}
@@ -296,11 +302,18 @@ void MainWindow::arrange() {
     const Place& place = places[static_cast<std::size_t>(i)];
     const bool same = std::exchange(shown.font, font) == font;
     if (!same) ::SendMessageW(shown.window, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
+    if (!same && def(i).kind == Kind::ListBox) widen(i);
     if (std::exchange(shown.place, place) == place && same) continue;
-    if (def(i).kind == Kind::ComboBox)
+    if (def(i).kind == Kind::ComboBox) {  // which takes the entry that begins like its text, and selects it
+      const bool pushing = std::exchange(pushing_, true);
+      const LRESULT selection = ::SendMessageW(shown.window, CB_GETEDITSEL, 0, 0);
       place_combo(shown.window, place);
-    else
+      show_text(i, shown.text);
+      ::SendMessageW(shown.window, CB_SETEDITSEL, 0, selection);
+      pushing_ = pushing;
+    } else {
       ::SetWindowPos(shown.window, nullptr, place.left, place.top, place.width, place.height, SWP_NOZORDER | SWP_NOACTIVATE);
+    }
   }
 }
 
@@ -321,6 +334,7 @@ LRESULT MainWindow::receive(UINT message, WPARAM w, LPARAM l) {
       ::SetBkColor(dc, color_of(form_.definition().background));
       return reinterpret_cast<LRESULT>(background_);
     }
+    case WM_CTLCOLORBTN: return reinterpret_cast<LRESULT>(background_);  // around its corners
     case WM_NOTIFY:
       if (reinterpret_cast<NMHDR*>(l)->code == TTN_GETDISPINFOW) show_tip(*reinterpret_cast<NMTTDISPINFOW*>(l));
       return 0;
@@ -348,17 +362,17 @@ LRESULT MainWindow::receive(UINT message, WPARAM w, LPARAM l) {
       return 0;
     }
     case WM_ACTIVATE:
-      if (const HWND focus = ::GetFocus(); LOWORD(w) == WA_INACTIVE && focus != nullptr) focus_ = focus;
       if (LOWORD(w) != WA_INACTIVE && HIWORD(w) == 0) ::SetFocus(focus_);  // not while it is an icon
       return 0;
+    case WM_SETFOCUS: ::SetFocus(focus_); return 0;  // it is no icon any more
     case WM_CLOSE:
       if (running_) return 0;
       form_.window().ended = true;
       ::DestroyWindow(window_);
       return 0;
     case WM_DESTROY:
-      for (const View& named : views_)
-        if (names_ != nullptr && !named.name.empty()) name(named.window, nullptr, nullptr);
+      for (int i = 0; i < controls(); ++i)
+        if (names_ != nullptr && !view(i).name.empty()) name(i, nullptr);
       ::PostQuitMessage(form_.window().status);
       return 0;
     default: return ::DefWindowProcW(window_, message, w, l);
@@ -374,14 +388,11 @@ void MainWindow::notified(int control, UINT notice) {
       return;
     case Kind::TextBox:
       if (notice == EN_CHANGE) typed(control);
-      if (notice == EN_KILLFOCUS) ::SendMessageW(from, EM_SETSEL, 0, 0);  // it is seen from its beginning
-      return;
-    case Kind::ListBox:  // told by a screen reader, as the list itself tells nothing
-      if (notice == LBN_SELCHANGE) choose(control, static_cast<int>(::SendMessageW(from, LB_GETCURSEL, 0, 0)));
+      if (notice == EN_KILLFOCUS) show_beginning(from);
       return;
     case Kind::ComboBox:
       if (notice == CBN_EDITCHANGE) typed(control);
-      if (notice == CBN_KILLFOCUS) ::SendMessageW(from, CB_SETEDITSEL, 0, 0);
+      if (notice == CBN_KILLFOCUS) show_beginning(edit_of(from));
       // What follows waits until the box is done with the message that brought it.
       if (notice == CBN_SELENDOK) picked_ = true;
       if (notice == CBN_SELENDOK || notice == CBN_CLOSEUP) closing_ = control;
@@ -396,27 +407,32 @@ void MainWindow::notified(int control, UINT notice) {
 LRESULT CALLBACK MainWindow::control_procedure(HWND window, UINT message, WPARAM w, LPARAM l, UINT_PTR id, DWORD_PTR self) {
   auto& main = *reinterpret_cast<MainWindow*>(self);
   const int control = static_cast<int>(id);
+  if (message == WM_NCDESTROY) ::RemoveWindowSubclass(window, control_procedure, id);
   if (main.def(control).kind == Kind::ListBox) return main.receive_in_list(control, window, message, w, l);
   const bool open = ::SendMessageW(main.control(control), CB_GETDROPPEDSTATE, 0, 0) != 0;
   if (message == WM_MOUSEWHEEL && !open) return 0;
-  if (message == WM_CHAR && (w == VK_RETURN || w == VK_ESCAPE)) return 0;  // of the key that closed it: no sound
+  if (message == WM_CHAR && (w == VK_RETURN || w == VK_ESCAPE) && !open) return 0;  // of the key that closed it: no sound
   return ::DefSubclassProc(window, message, w, l);
 }
 
 LRESULT MainWindow::receive_in_list(int control, HWND list, UINT message, WPARAM w, LPARAM l) {
   const auto selected = [list] { return static_cast<int>(::SendMessageW(list, LB_GETCURSEL, 0, 0)); };
   const auto select = [&](int entry) {
-    if (entry < 0) return;
-    ::SendMessageW(list, LB_SETCURSEL, static_cast<WPARAM>(entry), 0);
-    choose(control, entry);
+    if (entry >= 0) ::SendMessageW(list, LB_SETCURSEL, static_cast<WPARAM>(entry), 0);
   };
   switch (message) {
     case WM_LBUTTONDOWN:
     case WM_LBUTTONDBLCLK: {
       ::SetFocus(list);
-      const LRESULT at = ::SendMessageW(list, LB_ITEMFROMPOINT, 0, l);
-      if (HIWORD(at) == 0) select(LOWORD(at));
+      POINT at{LOWORD(l), HIWORD(l)};
+      ::ClientToScreen(list, &at);
+      select(::LBItemFromPt(list, at, FALSE));
       return 0;
+    }
+    case LB_SETCURSEL: {  // by the above, or by a screen reader, after which the list itself tells nothing
+      const LRESULT result = ::DefSubclassProc(list, message, w, l);
+      if (!pushing_) choose(control, selected());
+      return result;
     }
     case WM_CHAR:
       if (w > VK_SPACE)
@@ -449,6 +465,7 @@ void MainWindow::handle(MSG& message) {
     ::DispatchMessageW(&message);
   }
   settle_combo();
+  if (const HWND focus = ::GetFocus(); control_of(focus) >= 0) focus_ = focus;
 }
 
 // Tab goes on, Shift with it back. Enter presses a button and shows a species again; it leaves a box as it is, and so does
@@ -481,9 +498,9 @@ int MainWindow::control_of(HWND window) const {
   return -1;
 }
 
-// Of an entry of the list, also of the one chosen before.
+// Of an entry of the list, also of the one chosen before; the choice is never taken back.
 void MainWindow::choose(int control, int entry) {
-  if (entry < 0) return;
+  if (entry < 0) return push();  // which shows it again
   if (!running_) form_.window()[control].selected = entry;
   run(control);
 }
@@ -546,10 +563,11 @@ void MainWindow::push() {
     if (const std::wstring text = def(i).path ? from_path(now.text) : from_bytes(now.text); text != shown.text)
       show_text(i, text);
   }
-  if (!changed.empty()) arrange();  // what covers what
+  if (!changed.empty()) arrange();               // what covers what
+  const int focused = control_of(::GetFocus());  // before it is hidden, when the window may take the focus itself
   for (const View* shown : changed) ::ShowWindow(shown->window, shown->shown ? SW_SHOWNA : SW_HIDE);
   name_boxes();
-  keep_focus();
+  if (focused >= 0 && !view(focused).shown) move_focus(focused, false);
   pushing_ = false;
 }
 
@@ -583,16 +601,12 @@ void MainWindow::show_entries(int control, const Control& now) {
     if (list) ::SendMessageW(shown.window, WM_SETREDRAW, FALSE, 0);
     ::SendMessageW(shown.window, list ? LB_RESETCONTENT : CB_RESETCONTENT, 0, 0);
     ::SendMessageW(shown.window, list ? LB_INITSTORAGE : CB_INITSTORAGE, now.entries.size(), 0);
-    const std::string* longest = nullptr;
     for (const std::string& entry : now.entries) {
       const std::wstring text = from_bytes(entry);
       ::SendMessageW(shown.window, list ? LB_ADDSTRING : CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str()));
-      if (longest == nullptr || entry.size() > longest->size()) longest = &entry;
     }
     if (list) {
-      const Measure measure(reinterpret_cast<HFONT>(::SendMessageW(shown.window, WM_GETFONT, 0, 0)));
-      const int width = longest == nullptr ? 0 : measure.width(from_bytes(*longest)) + kTextMargin;
-      ::SendMessageW(shown.window, LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(width), 0);
+      widen(control);
       ::SendMessageW(shown.window, WM_SETREDRAW, TRUE, 0);
       ::InvalidateRect(shown.window, nullptr, TRUE);
     } else {
@@ -603,6 +617,15 @@ void MainWindow::show_entries(int control, const Control& now) {
     ::SendMessageW(shown.window, LB_SETCURSEL, static_cast<WPARAM>(now.selected), 0);
 }
 
+// A list can be scrolled to the end of its widest entry.
+void MainWindow::widen(int control) {
+  const View& list = view(control);
+  const Measure measure(list.font);
+  int widest = 0;
+  for (const std::string& entry : list.entries) widest = std::max(widest, measure.width(from_bytes(entry)));
+  ::SendMessageW(list.window, LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(widest + kTextMargin), 0);
+}
+
 // For screen readers: a box by the text of its label, which changes, and by what the box holds.
 void MainWindow::name_boxes() {
   for (int i = 0; i < controls(); ++i) {
@@ -610,26 +633,24 @@ void MainWindow::name_boxes() {
     const std::wstring label = from_bytes(form_.window()[def(i).label].text);
     if (label == view(i).name) continue;
     view(i).name = label;
-    const std::wstring about = from_bytes(def(i).about);
-    name(view(i).window, label.c_str(), about.c_str());
-    if (const HWND edit = edit_of(view(i).window)) name(edit, label.c_str(), about.c_str());
+    name(i, label.c_str());
   }
 }
 
-void MainWindow::name(HWND box, const wchar_t* text, const wchar_t* about) {
+// Null: no more.
+void MainWindow::name(int control, const wchar_t* text) {
   static const MSAAPROPID kProperties[] = {PROPID_ACC_NAME, PROPID_ACC_DESCRIPTION};
-  if (text == nullptr) {
-    names_->ClearHwndProps(box, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF, kProperties, std::size(kProperties));
-    return;
+  constexpr DWORD kClient = static_cast<DWORD>(OBJID_CLIENT);
+  const HWND box = view(control).window;
+  for (const HWND part : {box, edit_of(box)}) {
+    if (part == nullptr) continue;
+    if (text == nullptr) {
+      names_->ClearHwndProps(part, kClient, CHILDID_SELF, kProperties, std::size(kProperties));
+      continue;
+    }
+    names_->SetHwndPropStr(part, kClient, CHILDID_SELF, PROPID_ACC_NAME, text);
+    names_->SetHwndPropStr(part, kClient, CHILDID_SELF, PROPID_ACC_DESCRIPTION, from_bytes(def(control).about).c_str());
   }
-  names_->SetHwndPropStr(box, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF, PROPID_ACC_NAME, text);
-  names_->SetHwndPropStr(box, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF, PROPID_ACC_DESCRIPTION, about);
-}
-
-// A box that is hidden gives it to the next one.
-void MainWindow::keep_focus() {
-  const int control = control_of(::GetFocus());
-  if (control >= 0 && !view(control).shown) move_focus(control, false);
 }
 
 }  // namespace ui::win32

@@ -76,8 +76,8 @@ class MainWindow {
   std::wstring written(int control, std::wstring text) const;
   void show_text(int control, const std::wstring& text);
   void name_boxes();
-  void name(HWND box, const wchar_t* text, const wchar_t* about);
-  void keep_focus();
+  void name(int control, const wchar_t* text);
+  void widen(int control);
 
   const ControlDef& def(int control) const { return form_.definition().controls[static_cast<std::size_t>(control)]; }
   View& view(int control) { return views_[static_cast<std::size_t>(control)]; }
