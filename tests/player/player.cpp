@@ -143,6 +143,10 @@ int play_script(Player& player, bool echo) {
   ::_setmode(::_fileno(stdin), _O_BINARY);
   ::_setmode(::_fileno(stdout), _O_BINARY);
 #endif
+  player.dialogs.report = [told = player.dialogs.report](const std::string& line) {
+    std::cout << line << '\n';
+    told(line);
+  };
   if (echo) std::cout << player.state();
   for (std::string line; std::getline(std::cin, line);) {
     if (line.empty() || line.front() == '#') continue;

@@ -1,4 +1,3 @@
-#include <iostream>
 #include <string_view>
 
 #include "player/player.h"
@@ -6,6 +5,5 @@
 // scenario_player [--echo] < script > transcript: see play_script().
 int main(int argc, char** argv) {
   player::Player player(file::system());
-  player.dialogs.report = [](const std::string& line) { std::cout << line << '\n'; };
   return player::play_script(player, argc > 1 && argv[1] == std::string_view("--echo"));
 }

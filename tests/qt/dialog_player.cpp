@@ -15,13 +15,12 @@ namespace {
 
 void describe(const QWidget* dialog) {
   const QSize screen = dialog->screen()->availableSize();
-  if (const auto* box = qobject_cast<const QMessageBox*>(dialog))
-    std::cout << "[" << box->windowTitle().toStdString() << "] [" << ui::qt::to_bytes(box->text())
-              << (box->textFormat() == Qt::PlainText ? "] plain" : "] formatted")
-              << (box->icon() == QMessageBox::Critical   ? " critical"
-                  : box->icon() == QMessageBox::Question ? " question"
-                                                         : "")
-              << " buttons " << box->standardButtons().toInt() << '\n';
+  if (const auto* box = qobject_cast<const QMessageBox*>(dialog)) {
+    const std::string icon = box->icon() == QMessageBox::Critical ? "critical" : "question";
+    describe_box(box->windowTitle().toStdString(), ui::qt::to_bytes(box->text()),
+                 box->textFormat() == Qt::PlainText ? icon : icon + " formatted",
+                 box->standardButtons() == (QMessageBox::Yes | QMessageBox::No));
+  }
   if (const auto* file = qobject_cast<const QFileDialog*>(dialog))
     std::cout << file->nameFilters().join(" | ").toStdString() << '\n';
   if (dialog->width() > screen.width() || dialog->height() > screen.height()) std::cout << "too large for the screen\n";
@@ -55,9 +54,8 @@ void play_dialog(QWidget* parent, const std::string& form, const std::string& te
   reply(replies.split('|'));
   if (form == "tell" || form == "ask") {
     const bool ask = form == "ask";
-    const auto answer = dialogs.message(text, "Kelmar", ask ? ui::Icon::Question : ui::Icon::Critical,
-                                        ask ? ui::Buttons::YesNo : ui::Buttons::Ok);
-    std::cout << "answer " << (answer == ui::Answer::Yes ? "Yes" : answer == ui::Answer::No ? "No" : "OK") << '\n';
+    describe_answer(dialogs.message(text, "Kelmar", ask ? ui::Icon::Question : ui::Icon::Critical,
+                                    ask ? ui::Buttons::YesNo : ui::Buttons::Ok));
     return;
   }
   const auto path = dialogs.choose_file({.form = form == "open" ? ui::FileRequest::Form::Open : ui::FileRequest::Form::Save,

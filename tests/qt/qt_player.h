@@ -1,4 +1,7 @@
-// A person who uses real widgets by real clicks and keys; after each event the widgets show what the window's values hold.
+// A person who uses real widgets by real clicks and keys. Besides what every window takes:
+//
+//   dialog FORM REPLIES: for a file to "open", to "save" to with an extension, or to "name"; a reply may be a name typed
+//   describe NAME: what a screen reader reads, with the tooltip, and whether the frame is lit
 #pragma once
 
 #include <QAction>
@@ -8,22 +11,20 @@
 #include <QPushButton>
 #include <QTest>
 
-#include "player/player.h"
+#include "player/window_player.h"
 #include "ui/qt/main_window.h"
 #include "ui/qt/text.h"
 #include "ui/qt/widgets.h"
 
 namespace player {
 
-class QtPlayer : public Player {
+class QtPlayer : public WindowPlayer {
  public:
-  explicit QtPlayer(file::System& system) : Player(system) {}
+  explicit QtPlayer(file::System& system) : WindowPlayer(system) {}
 
-  ui::qt::EntryList* list() { return dynamic_cast<ui::qt::EntryList*>(window.widget(app::lstReactions)); }
-  QPoint middle(int entry);
-  QLineEdit* edit(int control);
-  // Lets the window settle. Gives the controls whose widgets differ from the values.
-  std::string differences();
+  void settle() override { QApplication::processEvents(); }
+  std::string differences() override;
+  bool is_cut(int control) override;
 
   ui::qt::MainWindow window{form};
 
@@ -34,11 +35,17 @@ class QtPlayer : public Player {
   void do_type(const Event& event) override;
   void do_click(const Event& event) override;
   void do_close() override { window.close(); }
+  bool do_other(const Deed& deed) override;
+  int focused() override;
+  bool is_open() override { return window.isVisible(); }
+
+ private:
+  ui::qt::EntryList* list() { return dynamic_cast<ui::qt::EntryList*>(window.widget(app::lstReactions)); }
+  QPoint middle(int entry);
+  QLineEdit* edit(int control);
 };
 
-// Shows a real dialog: "tell" or "ask" a text, or one for a file to "open", to "save" to with an extension, or to "name".
-// The replies, with bars between, are keys, buttons, "close", or a name that is typed. Writes what the dialog shows and
-// gives.
+// Shows a real dialog, and writes what it shows and gives.
 void play_dialog(QWidget* parent, const std::string& form, const std::string& text, const QString& replies);
 
 }  // namespace player

@@ -1,6 +1,4 @@
 // What users, screen readers and eyes meet in the window, beyond the stories.
-#include <gtest/gtest.h>
-
 #include <QTimer>
 #include <cmath>
 #include <memory>
@@ -9,8 +7,7 @@
 #include <utility>
 
 #include "qt/qt_player.h"
-#include "support/memory_system.h"
-#include "support/text.h"
+#include "support/seat.h"
 #include "support/watched_system.h"
 #include "ui/backend.h"
 
@@ -42,25 +39,12 @@ struct Application {
   QApplication application{count, names};
 };
 
-// A program in real widgets, with an isotherm database.
-struct QtSeat : Application, support::MemorySystem, player::QtPlayer {
-  QtSeat()
-      : MemorySystem{{"dabase.txt", "C"},
-                     {"comp.mdb", support::kComponents},
-                     {"sorptemp.dat", "x.iso"},
-                     {"x.iso", "\"Freundlich\"\r\n" + support::kTrailer}},
-        QtPlayer(static_cast<MemorySystem&>(*this)) {
-    play("load");
-    settle();
-  }
-  void settle() { EXPECT_EQ(differences(), ""); }
-};
+struct QtSeat : Application, support::Seat<player::QtPlayer> {};
 
 TEST(Qt, CutsNoTextAndKeepsEveryByte) {
   QtSeat qt;
-  qt.form.window()[app::txtName].text = std::string(100000, 'n');
-  qt.window.push();
-  qt.settle();
+  qt.set(app::txtName, std::string(100000, 'n'));
+  qt.check();
   EXPECT_EQ(qt.text(app::txtName).size(), 100000u);
   for (int byte = 1; byte < 256; ++byte) {
     const std::string text(1, static_cast<char>(byte));
@@ -71,8 +55,7 @@ TEST(Qt, CutsNoTextAndKeepsEveryByte) {
 TEST(Qt, ShortensAPathInItsMiddleAndACaptionAtItsEnd) {
   QtSeat qt;
   const auto picture = [&](int control, const std::string& text) {
-    qt.form.window()[control].text = text;
-    qt.window.push();
+    qt.set(control, text);
     return qt.window.widget(control)->grab().toImage();
   };
   const std::string name(160, 'w');

@@ -1,36 +1,11 @@
-# The real message boxes and file dialogs. A question is answered Yes by Yes alone; a text is shown as it stands.
+# The real file dialogs, and a question that is closed.
 put there.NIC
 put a.MDB
 > load
-> dialog tell Return <b>x</b> Ã¤
-the window shows what stands
-[Kelmar] [<b>x</b> ä] plain critical buttons 1024
-answer OK
-focus nowhere
-> dialog ask Yes Really?
-the window shows what stands
-[Kelmar] [Really?] plain question buttons 81920
-answer Yes
-> dialog ask No Really?
-the window shows what stands
-[Kelmar] [Really?] plain question buttons 81920
-answer No
-> dialog ask Escape Really?
-the window shows what stands
-[Kelmar] [Really?] plain question buttons 81920
-answer No
-> dialog ask Return Really?
-the window shows what stands
-[Kelmar] [Really?] plain question buttons 81920
-answer No
 > dialog ask close Really?
 the window shows what stands
-[Kelmar] [Really?] plain question buttons 81920
+[Kelmar] [Really?] question YesNo
 answer No
-> dialog tell close WWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWW, record 4000 (WWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWW): the number of components is "WWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWW", not a number.
-the window shows what stands
-[Kelmar] [WWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWW, record 4000 (WWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWW): the number of components is "WWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWW", not a number.] plain critical buttons 1024
-answer OK
 > dialog open a.MDB
 the window shows what stands
 A (*.MDB) (*.MDB *.mdb) | B (*.ISO) (*.ISO *.iso)

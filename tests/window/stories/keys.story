@@ -110,7 +110,6 @@ focus txtID
 focus lstReactions
 > key Shift
 > key F2
-> key Left
 > keys ~
 > key Ctrl+Space
 > key Ctrl+A

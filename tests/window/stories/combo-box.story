@@ -39,6 +39,23 @@ txtName shown [FeX]
 txtNocomp shown [ 0]
 txtdhr hidden [  0]
 txtlogk shown [  2.5]
+> focus cboIsoterm
+focus cboIsoterm
+> key Down
+> state
+cboIsoterm shown [Extended Freundlich] 7
+  [Linear Kd]
+  [Freundlich]
+  [Extended Freundlich]
+  [Langmuir]
+  [Temkin]
+  [Langmuir-Freundlich]
+  [NICA]
+isomodel [Extended Freundlich]
+isoselect [Extended Freundlich]
+lstReactions shown [] 2
+  [CuX]
+  [FeX]
 > type txtlogk 7
 > type cboIsoterm Temkin
 > key Return
@@ -57,22 +74,8 @@ txtlogk shown [7]
 > focus cboIsoterm
 focus cboIsoterm
 > wheel cboIsoterm
+> resize 1.1
 > state
-> key Down
-> state
-cboIsoterm shown [Extended Freundlich] 7
-  [Linear Kd]
-  [Freundlich]
-  [Extended Freundlich]
-  [Langmuir]
-  [Temkin]
-  [Langmuir-Freundlich]
-  [NICA]
-isomodel [Extended Freundlich]
-isoselect [Extended Freundlich]
-lstReactions shown [] 2
-  [CuX]
-  [FeX]
 > click mnuFileExit
 ended
 gone sorptemp.dat
