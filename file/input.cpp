@@ -40,7 +40,13 @@ std::string reason(std::error_code error) {
 std::string named(std::string_view name) {
   constexpr std::size_t kLongest = 80, kHalf = kLongest / 2 - 2;
   std::string shown(name);
-  if (name.size() > kLongest) shown.replace(kHalf, name.size() - 2 * kHalf, "...");
+  if (name.size() > kLongest) {  // not inside a character of UTF-8
+    const auto is_inside = [&](std::size_t at) { return (static_cast<unsigned char>(name[at]) & 0xC0) == 0x80; };
+    std::size_t head = kHalf, tail = name.size() - kHalf;
+    while (head > 0 && is_inside(head)) --head;
+    while (tail < name.size() && is_inside(tail)) ++tail;
+    shown.replace(head, tail - head, "...");
+  }
   for (char& c : shown)
     if (c == '\r' || c == '\n') c = ' ';
   return shown;

@@ -259,10 +259,11 @@ void refuse_temporary(System& system, const std::string& temporary, const std::s
 }
 
 std::optional<std::string> copy_over(System& system, const std::string& from, const std::string& to, const Spared& spared) {
-  if (same_place(system, from, to)) return std::nullopt;
+  // A file on a disk that was copied from another may be told as the same file; its content is then seen to differ.
+  const Status before = look_at(system, from, Follow::Links);
+  if (same_place(system, from, to) && look_at(system, to, Follow::Links).same_content(before)) return std::nullopt;
   refuse_temporary(system, to + kBeside, from);
   Replacement replacement(system, to + kBeside, to, spared);
-  const Status before = look_at(system, from, Follow::Links);
   const std::string content = read_whole(system, from, kLargestDatabase);
   if (!look_at(system, from, Follow::Links).same_content(before))
     throw Refusal(named(from) + " was changed by another program while it was being copied. Try again.");

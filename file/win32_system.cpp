@@ -147,8 +147,8 @@ bool is_link(HANDLE file) {
          (info.FileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 && IsReparseTagNameSurrogate(info.ReparseTag);
 }
 
-std::wstring final_path(HANDLE file, DWORD form = VOLUME_NAME_DOS) {
-  return unprefixed(answer([&](wchar_t* text, DWORD size) { return ::GetFinalPathNameByHandleW(file, text, size, form); }));
+std::wstring final_path(HANDLE file) {
+  return unprefixed(answer([&](wchar_t* text, DWORD size) { return ::GetFinalPathNameByHandleW(file, text, size, 0); }));
 }
 
 // The same for every spelling.
@@ -339,10 +339,7 @@ class Win32System final : public System {
     status.type = (info.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0 ? Type::Folder : Type::Plain;
     status.size = whole(info.nFileSizeHigh, info.nFileSizeLow);
     status.links = info.nNumberOfLinks;
-    // Of two disks of which one is a copy of the other, the serial numbers are the same.
-    const std::wstring volume = final_path(native(handle), VOLUME_NAME_GUID);
-    status.identity = {info.dwVolumeSerialNumber ^ std::hash<std::wstring>()(volume.substr(0, volume.find(L'}'))),
-                       whole(info.nFileIndexHigh, info.nFileIndexLow)};
+    status.identity = {info.dwVolumeSerialNumber, whole(info.nFileIndexHigh, info.nFileIndexLow)};
     // Some servers and file systems have no such number for a file: then its path tells it from another.
     if (status.identity[1] == 0 || status.identity[1] == ~std::uint64_t{0})
       status.identity[1] = std::hash<std::wstring>()(folded(final_path(native(handle))));

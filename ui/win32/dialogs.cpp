@@ -76,7 +76,8 @@ std::optional<std::string> Win32Dialogs::choose_file(const FileRequest& request)
   dialog->GetOptions(&options);
   options |= FOS_FORCEFILESYSTEM | FOS_NOCHANGEDIR | FOS_DONTADDTORECENT | FOS_NOTESTFILECREATE | FOS_PATHMUSTEXIST;
   if (opens) options |= FOS_FILEMUSTEXIST;
-  if (request.extension.empty()) options &= ~static_cast<FILEOPENDIALOGOPTIONS>(FOS_OVERWRITEPROMPT);
+  // What will not be written may be read-only.
+  if (request.extension.empty()) options &= ~static_cast<FILEOPENDIALOGOPTIONS>(FOS_OVERWRITEPROMPT | FOS_NOREADONLYRETURN);
   dialog->SetOptions(options);
 
   const std::vector<std::wstring> parts = parts_of(request.filter);
@@ -85,7 +86,8 @@ std::optional<std::string> Win32Dialogs::choose_file(const FileRequest& request)
   dialog->SetFileTypes(static_cast<UINT>(types.size()), types.data());
   if (!request.extension.empty()) dialog->SetDefaultExtension(from_bytes(request.extension).c_str());
   Reference<IShellItem> folder;
-  if (::SHCreateItemFromParsingName(from_path(request.folder).c_str(), nullptr, IID_IShellItem, folder.place()) == S_OK)
+  if (!request.folder.empty() &&
+      ::SHCreateItemFromParsingName(from_path(request.folder).c_str(), nullptr, IID_IShellItem, folder.place()) == S_OK)
     dialog->SetFolder(folder.get());
 
   Reference<IShellItem> chosen;
