@@ -260,12 +260,13 @@ void refuse_temporary(System& system, const std::string& temporary, const std::s
 
 std::optional<std::string> copy_over(System& system, const std::string& from, const std::string& to, const Spared& spared) {
   // A file on a disk that was copied from another may be told as the same file; its content is then seen to differ.
-  const Status before = look_at(system, from, Follow::Links);
-  if (same_place(system, from, to) && look_at(system, to, Follow::Links).same_content(before)) return std::nullopt;
+  const auto content_of = [&](const std::string& path) { return look_at(system, path, Follow::Links); };
+  if (same_place(system, from, to) && content_of(from).same_content(content_of(to))) return std::nullopt;
   refuse_temporary(system, to + kBeside, from);
   Replacement replacement(system, to + kBeside, to, spared);
+  const Status before = content_of(from);
   const std::string content = read_whole(system, from, kLargestDatabase);
-  if (!look_at(system, from, Follow::Links).same_content(before))
+  if (!content_of(from).same_content(before))
     throw Refusal(named(from) + " was changed by another program while it was being copied. Try again.");
   return replacement.commit(content);
 }
