@@ -15,6 +15,7 @@ put sorptemp.dat
 > select 0
 > describe lstReactions
 name [Present database species] description [] tooltip [none] lit
+> key Left
 > focus txtID
 focus txtID
 > describe lstReactions

@@ -1,4 +1,5 @@
-# The focus goes back by Shift, and on from a control that is hidden. A screen reader takes back no choice.
+# The focus goes back by Shift, and on from a control that is hidden. A screen reader
+# takes back no choice, and what it dictates is typed.
 put x.mdb
 | 501,"FeOH+2",0,1.5,0,0,2,0,0,0,0,2
 | 1,150,-1,330
@@ -32,4 +33,7 @@ focus cboComp
 > key Tab
 focus cmdNextcomp
 > current -1
+> dictate txtName CaX
+> current 2
+> dictate txtlogk 99
 gone sorptemp.dat

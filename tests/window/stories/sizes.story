@@ -1,87 +1,122 @@
 # In a window of any size, with a species of each kind of database or a new one, no caption is cut (and where that can be,
 # no control lies over another), and the text of a combo box stays what was typed.
 > load
+> resize .6
 > choose complex.MDB
 > click mnuFileOpen
 dialog open [Complexation database files (*.MDB)|*.MDB|Counterion selectivity files (*.CDB)|*.CDB|Isotherm database files (*.ISO)|*.ISO|NICA-Donnan database files (*.NIC)|*.NIC|BLM parameter files (*.BLI)|*.BLI]
 > select 1
-> resize .6
-> resize 1.383
-> resize 1.458
-> resize .8265
 > choose counter.CDB
 > click mnuFileOpen
 dialog open [Complexation database files (*.MDB)|*.MDB|Counterion selectivity files (*.CDB)|*.CDB|Isotherm database files (*.ISO)|*.ISO|NICA-Donnan database files (*.NIC)|*.NIC|BLM parameter files (*.BLI)|*.BLI]
 > select 0
-> resize .6
-> resize 1.383
-> resize 1.458
-> resize .8265
 > choose goethite.MDB
 > click mnuFileOpen
 dialog open [Complexation database files (*.MDB)|*.MDB|Counterion selectivity files (*.CDB)|*.CDB|Isotherm database files (*.ISO)|*.ISO|NICA-Donnan database files (*.NIC)|*.NIC|BLM parameter files (*.BLI)|*.BLI]
 > select 1
-> resize .6
-> resize 1.383
-> resize 1.458
-> resize .8265
 > choose organic.MDB
 > click mnuFileOpen
 dialog open [Complexation database files (*.MDB)|*.MDB|Counterion selectivity files (*.CDB)|*.CDB|Isotherm database files (*.ISO)|*.ISO|NICA-Donnan database files (*.NIC)|*.NIC|BLM parameter files (*.BLI)|*.BLI]
 > select 2
-> resize .6
-> resize 1.383
-> resize 1.458
-> resize .8265
 > choose sorption.MDB
 > click mnuFileOpen
 dialog open [Complexation database files (*.MDB)|*.MDB|Counterion selectivity files (*.CDB)|*.CDB|Isotherm database files (*.ISO)|*.ISO|NICA-Donnan database files (*.NIC)|*.NIC|BLM parameter files (*.BLI)|*.BLI]
 > select 1
-> resize .6
-> resize 1.383
-> resize 1.458
-> resize .8265
-> choose langmuir.ISO
-> click mnuFileOpen
-dialog open [Complexation database files (*.MDB)|*.MDB|Counterion selectivity files (*.CDB)|*.CDB|Isotherm database files (*.ISO)|*.ISO|NICA-Donnan database files (*.NIC)|*.NIC|BLM parameter files (*.BLI)|*.BLI]
-> select 0
-> resize .6
-> resize 1.383
-> resize 1.458
-> resize .8265
 > choose freundl.ISO
 > click mnuFileOpen
 dialog open [Complexation database files (*.MDB)|*.MDB|Counterion selectivity files (*.CDB)|*.CDB|Isotherm database files (*.ISO)|*.ISO|NICA-Donnan database files (*.NIC)|*.NIC|BLM parameter files (*.BLI)|*.BLI]
 > select 0
-> resize .6
-> resize 1.383
-> resize 1.458
-> resize .8265
 > choose copper.BLI
 > click mnuFileOpen
 dialog open [Complexation database files (*.MDB)|*.MDB|Counterion selectivity files (*.CDB)|*.CDB|Isotherm database files (*.ISO)|*.ISO|NICA-Donnan database files (*.NIC)|*.NIC|BLM parameter files (*.BLI)|*.BLI]
 > select 0
-> resize .6
-> resize 1.383
-> resize 1.458
-> resize .8265
 > choose nicadon.NIC
 > click mnuFileOpen
 dialog open [Complexation database files (*.MDB)|*.MDB|Counterion selectivity files (*.CDB)|*.CDB|Isotherm database files (*.ISO)|*.ISO|NICA-Donnan database files (*.NIC)|*.NIC|BLM parameter files (*.BLI)|*.BLI]
 > select 0
-> resize .6
-> resize 1.383
-> resize 1.458
-> resize .8265
 > choose langmuir.ISO
 > click mnuFileOpen
 dialog open [Complexation database files (*.MDB)|*.MDB|Counterion selectivity files (*.CDB)|*.CDB|Isotherm database files (*.ISO)|*.ISO|NICA-Donnan database files (*.NIC)|*.NIC|BLM parameter files (*.BLI)|*.BLI]
+> select 0
+> resize 1.383
+> choose complex.MDB
+> click mnuFileOpen
+dialog open [Complexation database files (*.MDB)|*.MDB|Counterion selectivity files (*.CDB)|*.CDB|Isotherm database files (*.ISO)|*.ISO|NICA-Donnan database files (*.NIC)|*.NIC|BLM parameter files (*.BLI)|*.BLI]
+> select 1
+> choose counter.CDB
+> click mnuFileOpen
+dialog open [Complexation database files (*.MDB)|*.MDB|Counterion selectivity files (*.CDB)|*.CDB|Isotherm database files (*.ISO)|*.ISO|NICA-Donnan database files (*.NIC)|*.NIC|BLM parameter files (*.BLI)|*.BLI]
+> select 0
+> choose goethite.MDB
+> click mnuFileOpen
+dialog open [Complexation database files (*.MDB)|*.MDB|Counterion selectivity files (*.CDB)|*.CDB|Isotherm database files (*.ISO)|*.ISO|NICA-Donnan database files (*.NIC)|*.NIC|BLM parameter files (*.BLI)|*.BLI]
+> select 1
+> choose organic.MDB
+> click mnuFileOpen
+dialog open [Complexation database files (*.MDB)|*.MDB|Counterion selectivity files (*.CDB)|*.CDB|Isotherm database files (*.ISO)|*.ISO|NICA-Donnan database files (*.NIC)|*.NIC|BLM parameter files (*.BLI)|*.BLI]
+> select 2
+> choose sorption.MDB
+> click mnuFileOpen
+dialog open [Complexation database files (*.MDB)|*.MDB|Counterion selectivity files (*.CDB)|*.CDB|Isotherm database files (*.ISO)|*.ISO|NICA-Donnan database files (*.NIC)|*.NIC|BLM parameter files (*.BLI)|*.BLI]
+> select 1
+> choose freundl.ISO
+> click mnuFileOpen
+dialog open [Complexation database files (*.MDB)|*.MDB|Counterion selectivity files (*.CDB)|*.CDB|Isotherm database files (*.ISO)|*.ISO|NICA-Donnan database files (*.NIC)|*.NIC|BLM parameter files (*.BLI)|*.BLI]
+> select 0
+> choose copper.BLI
+> click mnuFileOpen
+dialog open [Complexation database files (*.MDB)|*.MDB|Counterion selectivity files (*.CDB)|*.CDB|Isotherm database files (*.ISO)|*.ISO|NICA-Donnan database files (*.NIC)|*.NIC|BLM parameter files (*.BLI)|*.BLI]
+> select 0
+> choose nicadon.NIC
+> click mnuFileOpen
+dialog open [Complexation database files (*.MDB)|*.MDB|Counterion selectivity files (*.CDB)|*.CDB|Isotherm database files (*.ISO)|*.ISO|NICA-Donnan database files (*.NIC)|*.NIC|BLM parameter files (*.BLI)|*.BLI]
+> select 0
+> choose langmuir.ISO
+> click mnuFileOpen
+dialog open [Complexation database files (*.MDB)|*.MDB|Counterion selectivity files (*.CDB)|*.CDB|Isotherm database files (*.ISO)|*.ISO|NICA-Donnan database files (*.NIC)|*.NIC|BLM parameter files (*.BLI)|*.BLI]
+> select 0
+> resize 1.458
+> choose complex.MDB
+> click mnuFileOpen
+dialog open [Complexation database files (*.MDB)|*.MDB|Counterion selectivity files (*.CDB)|*.CDB|Isotherm database files (*.ISO)|*.ISO|NICA-Donnan database files (*.NIC)|*.NIC|BLM parameter files (*.BLI)|*.BLI]
+> select 1
+> choose counter.CDB
+> click mnuFileOpen
+dialog open [Complexation database files (*.MDB)|*.MDB|Counterion selectivity files (*.CDB)|*.CDB|Isotherm database files (*.ISO)|*.ISO|NICA-Donnan database files (*.NIC)|*.NIC|BLM parameter files (*.BLI)|*.BLI]
+> select 0
+> choose goethite.MDB
+> click mnuFileOpen
+dialog open [Complexation database files (*.MDB)|*.MDB|Counterion selectivity files (*.CDB)|*.CDB|Isotherm database files (*.ISO)|*.ISO|NICA-Donnan database files (*.NIC)|*.NIC|BLM parameter files (*.BLI)|*.BLI]
+> select 1
+> choose organic.MDB
+> click mnuFileOpen
+dialog open [Complexation database files (*.MDB)|*.MDB|Counterion selectivity files (*.CDB)|*.CDB|Isotherm database files (*.ISO)|*.ISO|NICA-Donnan database files (*.NIC)|*.NIC|BLM parameter files (*.BLI)|*.BLI]
+> select 2
+> choose sorption.MDB
+> click mnuFileOpen
+dialog open [Complexation database files (*.MDB)|*.MDB|Counterion selectivity files (*.CDB)|*.CDB|Isotherm database files (*.ISO)|*.ISO|NICA-Donnan database files (*.NIC)|*.NIC|BLM parameter files (*.BLI)|*.BLI]
+> select 1
+> choose freundl.ISO
+> click mnuFileOpen
+dialog open [Complexation database files (*.MDB)|*.MDB|Counterion selectivity files (*.CDB)|*.CDB|Isotherm database files (*.ISO)|*.ISO|NICA-Donnan database files (*.NIC)|*.NIC|BLM parameter files (*.BLI)|*.BLI]
+> select 0
+> choose copper.BLI
+> click mnuFileOpen
+dialog open [Complexation database files (*.MDB)|*.MDB|Counterion selectivity files (*.CDB)|*.CDB|Isotherm database files (*.ISO)|*.ISO|NICA-Donnan database files (*.NIC)|*.NIC|BLM parameter files (*.BLI)|*.BLI]
+> select 0
+> choose nicadon.NIC
+> click mnuFileOpen
+dialog open [Complexation database files (*.MDB)|*.MDB|Counterion selectivity files (*.CDB)|*.CDB|Isotherm database files (*.ISO)|*.ISO|NICA-Donnan database files (*.NIC)|*.NIC|BLM parameter files (*.BLI)|*.BLI]
+> select 0
+> choose langmuir.ISO
+> click mnuFileOpen
+dialog open [Complexation database files (*.MDB)|*.MDB|Counterion selectivity files (*.CDB)|*.CDB|Isotherm database files (*.ISO)|*.ISO|NICA-Donnan database files (*.NIC)|*.NIC|BLM parameter files (*.BLI)|*.BLI]
+> select 0
 > click cmdAddnew
 > type txtSpname New
 > type txtStoicn 1
 > type cboComp H
-> resize .6
-> resize 1.383
+> resize .496
 > state
 cboComp shown [H] 54
   [Ag+]
@@ -186,12 +221,9 @@ txtf50 hidden [ .18]
 > click cmdNextcomp
 > type txtStoicn 1
 > pick cboComp 9
-> resize 1.458
-> click cmdNextcomp
-> resize .6
 > resize 1.383
+> click cmdNextcomp
 > resize 1.458
-> resize .8265
 > click cmdSuggest
 > state
 cboComp shown [] 54
