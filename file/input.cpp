@@ -65,7 +65,12 @@ Input::Input(System& system, const std::string& path, const std::string& name)
     : system_(system),
       name_(name),
       file_(system) {
-  require(uninterrupted([&] { return system_.open_read(path, file_.handle()); }), "open", name_);
+  std::error_code error;
+  patiently(system_, [&] {
+    error = uninterrupted([&] { return system_.open_read(path, file_.handle()); });
+    return error != std::errc::operation_would_block;
+  });
+  require(error, "open", name_);
 }
 
 std::size_t Input::read(std::uint64_t offset, char* bytes, std::size_t size, std::string_view what) const {

@@ -1,6 +1,5 @@
 #include "file/replacement.h"
 
-#include <chrono>
 #include <new>
 #include <utility>
 
@@ -39,18 +38,6 @@ void require_excluded(std::error_code error, const std::string& path) {
     throw Refusal(named(path + kLock) +
                   " is in the way: a lock of that name would be empty, and it is not. Move it away and " + "try again.");
   if (error != std::errc::not_supported) require(error, "lock", path);
-}
-
-// Tries for about a second, until an attempt is true.
-template <typename Attempt>
-bool patiently(System& system, Attempt attempt) {
-  constexpr int kAttempts = 20;
-  constexpr std::chrono::milliseconds kPause{50};
-  for (int i = 0; i < kAttempts; ++i) {
-    if (attempt()) return true;
-    system.pause(kPause);
-  }
-  return false;
 }
 
 }  // namespace

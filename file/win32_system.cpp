@@ -213,10 +213,16 @@ class Win32System final : public System {
 
   // While it is written nobody else removes it. Through a link that leads nowhere it would be made elsewhere.
   std::error_code create_new(const std::string& path, Access access, Handle& handle) override {
+    const auto create = [&](DWORD rights, SECURITY_ATTRIBUTES* security) {
+      return open(wide(path), GENERIC_WRITE | FILE_READ_ATTRIBUTES | READ_CONTROL | rights, FILE_SHARE_READ, CREATE_NEW,
+                  FILE_FLAG_OPEN_REPARSE_POINT, handle, security);
+    };
+    if (access == Access::Shared) return create(0, nullptr);
     Private alone;
-    if (access == Access::Private && alone.attributes.lpSecurityDescriptor == nullptr) return last_error();
-    return open(wide(path), GENERIC_WRITE | FILE_READ_ATTRIBUTES | READ_CONTROL | WRITE_DAC, FILE_SHARE_READ, CREATE_NEW,
-                FILE_FLAG_OPEN_REPARSE_POINT, handle, access == Access::Private ? &alone.attributes : nullptr);
+    if (alone.attributes.lpSecurityDescriptor == nullptr) return last_error();
+    const auto error = create(WRITE_DAC, &alone.attributes);
+    // A server's share may withhold the right to say who may what: then the folder says it.
+    return error == std::errc::permission_denied ? create(0, nullptr) : error;
   }
 
   // By a file of its own beside it, which the system removes with the handle: one that is open cannot be renamed over. Only
@@ -406,15 +412,19 @@ class Win32System final : public System {
   void pause(std::chrono::milliseconds time) override { ::Sleep(static_cast<DWORD>(time.count())); }
 
  private:
-  static std::error_code copy_list(HANDLE to, HANDLE from) {
+  static std::error_code read_list(HANDLE file, std::vector<char>& list) {
     DWORD size = 0;
-    ::GetKernelObjectSecurity(from, DACL_SECURITY_INFORMATION, nullptr, 0, &size);
-    std::vector<char> list(size);
+    ::GetKernelObjectSecurity(file, DACL_SECURITY_INFORMATION, nullptr, 0, &size);
+    list.resize(size);
+    return checked(::GetKernelObjectSecurity(file, DACL_SECURITY_INFORMATION, list.data(), size, &size));
+  }
+  static std::error_code copy_list(HANDLE to, HANDLE from) {
+    std::vector<char> list, present;
     SECURITY_DESCRIPTOR_CONTROL control = 0;
     DWORD revision = 0;
-    if (!::GetKernelObjectSecurity(from, DACL_SECURITY_INFORMATION, list.data(), size, &size) ||
-        !::GetSecurityDescriptorControl(list.data(), &control, &revision))
-      return last_error();
+    if (const auto error = read_list(from, list)) return error;
+    if (!read_list(to, present) && present == list) return {};
+    if (!::GetSecurityDescriptorControl(list.data(), &control, &revision)) return last_error();
     // Entries that came from the folder stay known as such only where that is asked for.
     if ((control & SE_DACL_AUTO_INHERITED) != 0)
       ::SetSecurityDescriptorControl(list.data(), SE_DACL_AUTO_INHERIT_REQ, SE_DACL_AUTO_INHERIT_REQ);

@@ -59,7 +59,8 @@ bool fits(const wchar_t* path) {
 HANDLE WINAPI create(const wchar_t* path, DWORD access, DWORD share, SECURITY_ATTRIBUTES* security, DWORD how, DWORD flags,
                      HANDLE like) {
   // The right that is asked for, and refused to this user.
-  const bool refuses = ((access & GENERIC_WRITE) != 0 && fails("GENERIC_WRITE")) || (access == DELETE && fails("DELETE")) ||
+  const bool refuses = ((access & GENERIC_WRITE) != 0 && fails("GENERIC_WRITE")) ||
+                       ((access & WRITE_DAC) != 0 && fails("WRITE_DAC")) || (access == DELETE && fails("DELETE")) ||
                        (access == FILE_ADD_FILE && fails("FILE_ADD_FILE")) ||
                        (access == FILE_READ_ATTRIBUTES && fails("FILE_READ_ATTRIBUTES"));
   return !refuses && fits(path) ? real_create(path, access, share, security, how, flags, like) : INVALID_HANDLE_VALUE;

@@ -24,6 +24,7 @@ constexpr int kFirstId = 100;     // of the controls: above those that the syste
 constexpr int kPickRows = 10;     // of an open combo box
 constexpr int kTextMargin = 6;    // pixels beside the text of a box
 constexpr int kTipWidth = 600;
+constexpr std::size_t kLongestTip = 500;  // characters
 
 int scaled(int value, double factor) { return static_cast<int>(std::ceil(value * factor)); }
 
@@ -74,7 +75,7 @@ void place_combo(HWND combo, const Place& place) {
   closed_with(2 * place.height - closed_with(place.height));
 }
 
-// A text that the user has left is seen from there.
+// A text that the user has left for another control is seen from there.
 void show_beginning(HWND edit) {
   ::SendMessageW(edit, EM_SETSEL, 0, 0);
   ::SendMessageW(edit, EM_SCROLLCARET, 0, 0);
@@ -241,7 +242,7 @@ void MainWindow::show_tip(NMTTDISPINFOW& asked) {
   const std::wstring text = text_of(owner);
   const auto font = reinterpret_cast<HFONT>(::SendMessageW(owner, WM_GETFONT, 0, 0));
   const int margin = def(control).kind == Kind::Label ? 0 : kTextMargin;
-  if (Measure(font).width(text) > inside.right - margin) tip_ = text;
+  if (Measure(font).width(text) > inside.right - margin) tip_ = text.substr(0, kLongestTip);
   asked.lpszText = tip_.data();
 }
 
@@ -312,7 +313,8 @@ void MainWindow::arrange() {
       ::SendMessageW(shown.window, CB_SETEDITSEL, 0, selection);
       pushing_ = pushing;
     } else {
-      ::SetWindowPos(shown.window, nullptr, place.left, place.top, place.width, place.height, SWP_NOZORDER | SWP_NOACTIVATE);
+      ::SetWindowPos(shown.window, nullptr, place.left, place.top, place.width, place.height,
+                     SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);  // a label is painted anew as a whole
     }
   }
 }
@@ -388,11 +390,11 @@ void MainWindow::notified(int control, UINT notice) {
       return;
     case Kind::TextBox:
       if (notice == EN_CHANGE) typed(control);
-      if (notice == EN_KILLFOCUS) show_beginning(from);
+      if (notice == EN_KILLFOCUS && control_of(::GetFocus()) >= 0) show_beginning(from);
       return;
     case Kind::ComboBox:
       if (notice == CBN_EDITCHANGE) typed(control);
-      if (notice == CBN_KILLFOCUS) show_beginning(edit_of(from));
+      if (notice == CBN_KILLFOCUS && control_of(::GetFocus()) >= 0) show_beginning(edit_of(from));
       // What follows waits until the box is done with the message that brought it.
       if (notice == CBN_SELENDOK) picked_ = true;
       if (notice == CBN_SELENDOK || notice == CBN_CLOSEUP) closing_ = control;
@@ -473,6 +475,8 @@ void MainWindow::handle(MSG& message) {
 bool MainWindow::press(const MSG& message) {
   const int control = control_of(message.hwnd);
   const WPARAM key = message.wParam;
+  if (message.message == WM_CHAR && key == 0x7F)
+    return true;  // Ctrl with the key that takes back, which a box would take in
   if (message.message != WM_KEYDOWN || (key != VK_TAB && key != VK_RETURN && key != VK_ESCAPE)) return false;
   if (key == VK_TAB) return move_focus(control, ::GetKeyState(VK_SHIFT) < 0), true;
   if (control < 0) return false;

@@ -106,6 +106,18 @@ std::error_code uninterrupted(Call call) {
   return error;
 }
 
+// Tries for about a second, until an attempt is true.
+template <typename Attempt>
+bool patiently(System& system, Attempt attempt) {
+  constexpr int kAttempts = 20;
+  constexpr std::chrono::milliseconds kPause{50};
+  for (int i = 0; i < kAttempts; ++i) {
+    if (attempt()) return true;
+    system.pause(kPause);
+  }
+  return false;
+}
+
 // A handle that is closed with the object, if it was not before.
 class OpenFile {
  public:
