@@ -68,6 +68,7 @@ std::vector<Place> Layout::places(const Window& window, Size area) const {
     return std::pair(kind != Kind::Label && kind != Kind::Line, i);
   };
   std::vector<Place> all;
+  all.reserve(def_.controls.size());
   for (int i = 0; i < count; ++i) all.push_back(place(i, window, area));
   for (int upper = 0; upper < count; ++upper)
     for (int lower = 0; lower < count; ++lower)
