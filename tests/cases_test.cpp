@@ -25,7 +25,7 @@
 #include "edit/suggestion.h"
 #include "support/memory_system.h"
 #include "support/text.h"
-#include "ui/code_page.h"
+#include "text/code_page.h"
 #include "ui/type_ahead.h"
 
 namespace {
@@ -200,7 +200,7 @@ const std::map<std::string, std::function<std::string(const Arguments&)>> kOpera
     {"unicode",
      [](const Arguments& a) {
        std::ostringstream text;
-       for (const char16_t c : ui::path_to_unicode(a[0])) text << " " << std::hex << static_cast<unsigned>(c);
+       for (const char16_t c : text::path_to_unicode(a[0])) text << " " << std::hex << static_cast<unsigned>(c);
        return text.str();
      }},
     {"folder", [](const Arguments& a) { return app::working_folder(a[0]); }},

@@ -58,7 +58,7 @@ struct WindowDef {
   std::span<const ControlDef> controls{};
 };
 
-// What changes. Texts are bytes of the code page (code_page.h).
+// What changes. Texts are bytes of the code page (text/code_page.h).
 struct Control {
   std::string text;  // of a list box: unused, see selected_text()
   bool shown = true;

@@ -5,12 +5,12 @@
 #include <string>
 #include <string_view>
 
-#include "ui/code_page.h"
+#include "text/code_page.h"
 
 namespace ui::qt {
 
-inline QString from_bytes(std::string_view bytes) { return QString::fromStdU16String(to_unicode(bytes)); }
-inline QString from_path(std::string_view bytes) { return QString::fromStdU16String(path_to_unicode(bytes)); }
-inline std::string to_bytes(const QString& text) { return from_unicode(text.toStdU16String()); }
+inline QString from_bytes(std::string_view bytes) { return QString::fromStdU16String(text::to_unicode(bytes)); }
+inline QString from_path(std::string_view bytes) { return QString::fromStdU16String(text::path_to_unicode(bytes)); }
+inline std::string to_bytes(const QString& text) { return text::from_unicode(text.toStdU16String()); }
 
 }  // namespace ui::qt

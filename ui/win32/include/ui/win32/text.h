@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "ui/code_page.h"
+#include "text/code_page.h"
 
 namespace ui::win32 {
 
@@ -19,13 +19,13 @@ inline std::wstring from_unicode_text(std::u16string_view text) {
   std::ranges::replace(wide, L'\0', kZero);
   return wide;
 }
-inline std::wstring from_bytes(std::string_view bytes) { return from_unicode_text(to_unicode(bytes)); }
-inline std::wstring from_path(std::string_view bytes) { return from_unicode_text(path_to_unicode(bytes)); }
+inline std::wstring from_bytes(std::string_view bytes) { return from_unicode_text(text::to_unicode(bytes)); }
+inline std::wstring from_path(std::string_view bytes) { return from_unicode_text(text::path_to_unicode(bytes)); }
 
 inline std::string to_bytes(std::wstring_view text) {
   std::u16string plain(text.begin(), text.end());
   std::ranges::replace(plain, static_cast<char16_t>(kZero), u'\0');
-  return from_unicode(plain);
+  return text::from_unicode(plain);
 }
 
 // The text of a window: a label, box or button.

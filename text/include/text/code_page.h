@@ -1,10 +1,10 @@
-// The code page of all texts, Windows-1252, against Unicode. Only a toolkit's edge converts.
+// The code page of all texts, Windows-1252, against Unicode. Only where texts leave the program they are converted.
 #pragma once
 
 #include <string>
 #include <string_view>
 
-namespace ui {
+namespace text {
 
 std::u16string to_unicode(std::string_view bytes);
 
@@ -13,5 +13,7 @@ std::string from_unicode(std::u16string_view text);
 
 // A path, or a message that names one: UTF-8, as the system's file names are, and every byte that is none by the code page.
 std::u16string path_to_unicode(std::string_view bytes);
+// The same as UTF-8, for a terminal.
+std::string to_utf8(std::string_view bytes);
 
-}  // namespace ui
+}  // namespace text
