@@ -28,10 +28,11 @@ std::optional<double> site_number(std::string_view name) {
 bool ComponentReader::next(Component& component) {
   if (records_ == limit_ || !fields_.begin_record()) return false;
   ++records_;
+  begin_ = fields_.offset();
   try {
     std::array<Field, 6> fields;
     cut_short_ = !fields_.next(fields);
-    component = {fields[0], fields[1]};
+    component = {fields[0], fields[1], fields[2]};
   } catch (const FieldError& error) {
     fail(error.what());
   }
@@ -39,7 +40,8 @@ bool ComponentReader::next(Component& component) {
 }
 
 void ComponentReader::fail(const std::string& reason) const {
-  throw file::Error(file::named(fields_.name()) + ", record " + std::to_string(records_) + ": " + reason + ".");
+  const std::string where = file::named(fields_.name()) + ", record " + std::to_string(records_) + ": ";
+  throw file::Error(where + reason + ".", where.size());
 }
 
 ComponentNames component_names(file::System& system, const std::string& path, std::span<const double> numbers) {

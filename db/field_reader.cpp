@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
 #include <iterator>
 #include <utility>
 
@@ -54,9 +55,18 @@ FieldReader::FieldReader(file::System& system, const std::string& path, const st
 // was not read yet moves to new memory; the old stays for the fields that point into it.
 void FieldReader::make_room() {
   if (static_cast<std::size_t>(next_ - bytes_.get()) + kLongestField + 3 * kBlock < kRoom) return;
-  full_.push_back(std::exchange(bytes_, std::make_unique_for_overwrite<char[]>(kRoom)));
+  const std::uint64_t begin = offset_ - static_cast<std::uint64_t>(end_ - bytes_.get());
+  full_.push_back({std::exchange(bytes_, std::make_unique_for_overwrite<char[]>(kRoom)), begin});
   end_ = std::copy(next_, end_ + 1, bytes_.get()) - 1;
   next_ = bytes_.get();
+}
+
+std::uint64_t FieldReader::offset_of(const Field& field) const {
+  const char* const at = field.text.data();
+  for (const Full& full : full_)
+    if (std::less_equal<>()(full.bytes.get(), at) && std::less<>()(at, full.bytes.get() + kRoom))
+      return full.offset + static_cast<std::uint64_t>(at - full.bytes.get());
+  return offset_ - static_cast<std::uint64_t>(end_ - at);
 }
 
 bool FieldReader::begin_record() {

@@ -3,6 +3,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 #include <system_error>
 
 namespace db {
@@ -21,6 +22,11 @@ const char* after_digits(const char* at, const char* end) {
 
 std::optional<double> parse_longer_number(std::string_view text) {
   const char* const end = text.data() + text.size();
+  if (text.size() <= kDigits && after_digits(text.data(), end) == end && !text.empty()) {  // ID and component numbers
+    std::int64_t whole = 0;
+    for (const char digit : text) whole = 10 * whole + (digit - '0');
+    return static_cast<double>(whole);
+  }
   // from_chars takes no plus sign, and takes words like inf.
   const char* begin = text.data() + (text.starts_with('+') ? 1 : 0);
   const char* const unsigned_part = begin + (text.starts_with('-') ? 1 : 0);

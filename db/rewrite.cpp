@@ -169,7 +169,7 @@ const std::string& Rewrite::content() {
                         "Nothing was changed. Divide the database with a text editor.");
   if (species_ > kMaxSpecies && species_ > old_species_)
     throw file::Refusal(name_ + " is full: " + limit + "Delete one first, or add this one to another database.");
-  if (reader_.hides_more())
+  if (reader_.end() == SpeciesReader::End::Empty && reader_.rest())
     reader_.refuse(
         "an empty line or field ends the list here, and what stands after it would be lost. Nothing was changed. Remove the "
         "empty line with a text editor");

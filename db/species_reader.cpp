@@ -5,16 +5,15 @@
 
 namespace db {
 
-std::string SpeciesReader::located_text(const std::string& reason) const {
+std::string SpeciesReader::place() const {
   std::string where = file::named(fields_.name());
   if (records_ == 0) {
     where += ", before the first record";
   } else {
     where += ", record " + std::to_string(records_);
-    if (!record_.head[kId].is_empty() && !record_.name().empty())
-      where.append(" (").append(file::named(record_.name())).append(")");
+    if (!name().empty()) where.append(" (").append(file::named(name())).append(")");
   }
-  return where + ": " + reason + ".";
+  return where;
 }
 
 void SpeciesReader::require(std::span<Field> fields) {
@@ -39,6 +38,7 @@ LeadingFields SpeciesReader::read_leading(Leading leading) {
       read.description = fields[0].text;
       read.label = fields[1].text;
       read.critical_f = *critical_f;
+      read.critical_f_field = fields[2];
     }
     read.begins_with_number = !fields[0].quoted && !fields[0].is_empty() && fields[0].number();
     return read;
@@ -48,6 +48,7 @@ LeadingFields SpeciesReader::read_leading(Leading leading) {
 }
 
 const Record* SpeciesReader::next() {
+  begin_ = fields_.offset();
   if (!fields_.begin_record())
     end_ = End::File;
   else if (records_ == kMaxRecords)
@@ -62,20 +63,24 @@ const Record* SpeciesReader::next() {
   }
 }
 
-bool SpeciesReader::hides_more() {
+std::optional<SpeciesReader::Rest> SpeciesReader::rest() {
   const auto is_more = [](const Field& field) {
     return !field.text.empty() && field.number() != 0. && field.text != kTrailerText &&
            field.text != std::string_view(&kCtrlZ, 1);
   };
-  if (end_ != End::Empty) return false;
-  if (std::any_of(record_.head.begin(), record_.head.end(), is_more)) return true;
+  const auto found = [this](const Field& field, bool in_marker) {
+    return Rest{offset_of(field), !field.quoted && field.number(), in_marker};
+  };
+  if (end_ != End::Empty && end_ != End::Marker) return std::nullopt;
+  for (const Field& field : record_.head)
+    if (is_more(field)) return found(field, true);
   try {
     for (Field field; fields_.next(field); fields_.forget())
-      if (is_more(field)) return true;
+      if (is_more(field)) return found(field, false);
   } catch (const FieldError&) {
-    return true;
+    return Rest{fields_.offset()};
   }
-  return false;
+  return std::nullopt;
 }
 
 const Record* SpeciesReader::read_record() {

@@ -9,18 +9,20 @@
 namespace edit {
 
 const std::vector<Model>& models() {
+  static const auto& [linear_kd, freundlich, extended_freundlich, langmuir, temkin, langmuir_freundlich, nica] =
+      db::kIsothermModels;
   static const std::vector<Model> kModels{
-      {.name = "Linear Kd", .logk_caption = "log Kd", .sites_alike = true},
-      {.name = "Freundlich", .logk_caption = "log KF", .mb = true, .sites_alike = true},
-      {.name = "Extended Freundlich", .logk_caption = "log KF", .mb = true, .sites_alike = true},
-      {.name = "Langmuir", .logk_caption = "log KL", .sites = {{"Lsite2", 1302}}, .last_offered = 1310},
-      {.name = "Temkin", .logk_caption = "log KT", .site = 1331, .sites_alike = true},
-      {.name = "Langmuir-Freundlich",
+      {.name = linear_kd, .logk_caption = "log Kd", .sites_alike = true},
+      {.name = freundlich, .logk_caption = "log KF", .mb = true, .sites_alike = true},
+      {.name = extended_freundlich, .logk_caption = "log KF", .mb = true, .sites_alike = true},
+      {.name = langmuir, .logk_caption = "log KL", .sites = {{"Lsite2", 1302}}, .last_offered = 1310},
+      {.name = temkin, .logk_caption = "log KT", .site = 1331, .sites_alike = true},
+      {.name = langmuir_freundlich,
        .logk_caption = "log KLF",
        .sites = {{"LFsite1", 1311}, {"LFsite2", 1312}},
        .first_offered = 1310,
        .last_offered = 1320},
-      {.name = "NICA", .sites = {{"NICAsite1", 1321}, {"NICAsite2", 1322}}, .first_offered = 1320, .last_offered = 1340},
+      {.name = nica, .sites = {{"NICAsite1", 1321}, {"NICAsite2", 1322}}, .first_offered = 1320, .last_offered = 1340},
       {.name = db::kNicaDonnan,
        .sites = {{"FA1-", 1341}, {"FA2-", 1342}, {"HA1-", 1351}, {"HA2-", 1352}},
        .first_offered = 1340},

@@ -5,6 +5,7 @@
 #include <sys/xattr.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <filesystem>
@@ -236,6 +237,12 @@ class PosixSystem final : public System {
 System& system() {
   static PosixSystem posix;
   return posix;
+}
+
+std::vector<std::string> arguments(int argc, char** argv) { return {argv + std::min(argc, 1), argv + argc}; }
+
+std::string beside(const std::string& path, std::string_view name) {
+  return path.substr(0, path.rfind('/') + 1).append(name);
 }
 
 }  // namespace file

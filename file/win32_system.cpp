@@ -1,7 +1,10 @@
 #include <windows.h>
+// After it, whose types they need.
+#include <shellapi.h>
 #include <winternl.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <functional>
 #include <string>
 #include <utility>
@@ -438,6 +441,35 @@ class Win32System final : public System {
 System& system() {
   static Win32System win32;
   return win32;
+}
+
+// Those of the runtime are in the code page, which may lack letters of a name.
+std::vector<std::string> arguments(int, char**) {
+  static const UINT before = ::GetConsoleOutputCP();
+  ::SetConsoleOutputCP(CP_UTF8);
+  std::atexit([] { ::SetConsoleOutputCP(before); });
+  int count = 0;
+  wchar_t** const all = ::CommandLineToArgvW(::GetCommandLineW(), &count);
+  std::vector<std::string> paths;
+  for (int i = 1; i < count; ++i) {
+    const std::wstring argument = all[i];
+    WIN32_FIND_DATAW found;
+    HANDLE search = INVALID_HANDLE_VALUE;  // of the files of a pattern, which no command line here expands
+    if (argument.find_first_of(L"*?") != std::wstring::npos) search = ::FindFirstFileW(argument.c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE) {
+      paths.push_back(narrow(argument));
+      continue;
+    }
+    do paths.push_back(beside(narrow(argument), narrow(found.cFileName)));
+    while (::FindNextFileW(search, &found));
+    ::FindClose(search);
+  }
+  ::LocalFree(all);
+  return paths;
+}
+
+std::string beside(const std::string& path, std::string_view name) {
+  return path.substr(0, path.find_last_of("\\/:") + 1).append(name);
 }
 
 }  // namespace file

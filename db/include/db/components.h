@@ -1,6 +1,7 @@
 // The component database: which number has which component. Only ever read, and read anew for each operation.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <map>
 #include <optional>
@@ -20,6 +21,7 @@ std::optional<double> site_number(std::string_view name);
 
 struct Component {
   Field number, name;
+  Field charge;  // by custom; nothing of the editor depends on it
 };
 
 // Reads the records of a component database one by one, at most `limit` of them. Throws file::Error.
@@ -31,6 +33,9 @@ class ComponentReader {
   bool next(Component& component);
   // Whether the end was inside a record, which then does not count.
   bool cut_short() const { return cut_short_; }
+  // The number of the record that was read last, from 1 on, and where in the file, in bytes, it begins.
+  int record() const { return records_; }
+  std::uint64_t offset() const { return begin_; }
   // Throws file::Error about the record that was read last.
   [[noreturn]] void fail(const std::string& reason) const;
 
@@ -38,6 +43,7 @@ class ComponentReader {
   FieldReader fields_;
   int limit_;
   int records_ = 0;
+  std::uint64_t begin_ = 0;
   bool cut_short_ = false;
 };
 

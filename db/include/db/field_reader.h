@@ -65,6 +65,10 @@ class FieldReader {
   bool next(Field& field) { return next(std::span(&field, 1)); }
 
   const std::string& name() const { return input_.name(); }
+  // Where in the file, in bytes from its beginning, the next field begins; and where one read since forget() begins, the
+  // quote not counted.
+  std::uint64_t offset() const { return offset_ - static_cast<std::uint64_t>(end_ - next_); }
+  std::uint64_t offset_of(const Field& field) const;
   void close() { input_.close(); }
 
  private:
@@ -79,11 +83,15 @@ class FieldReader {
   bool next_of_any_kind(Field& field);
 
   file::Input input_;
-  std::vector<std::unique_ptr<char[]>> full_;  // that fields of this record point into
-  std::unique_ptr<char[]> bytes_;              // a part of the file, and a line end after it that stops every search
-  const char* next_;                           // the first byte that belongs to no field yet
-  const char* end_;                            // after the last byte read
-  std::uint64_t offset_ = 0;                   // of end_, in the file
+  struct Full {
+    std::unique_ptr<char[]> bytes;
+    std::uint64_t offset;  // of its beginning, in the file
+  };
+  std::vector<Full> full_;         // that fields of this record point into
+  std::unique_ptr<char[]> bytes_;  // a part of the file, and a line end after it that stops every search
+  const char* next_;               // the first byte that belongs to no field yet
+  const char* end_;                // after the last byte read
+  std::uint64_t offset_ = 0;       // of end_, in the file
   bool file_ended_ = false;
 };
 

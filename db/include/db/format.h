@@ -1,6 +1,7 @@
 // The numbers and fixed texts of the file formats; doc/file-format.md tells the grammar and its reasons.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <string_view>
 
@@ -30,6 +31,9 @@ inline constexpr std::string_view kTrailer =
     "0,\"\",0,0,0,0,0,0,0,0\r\n"
     "0,0\r\n";
 
+// Of an isotherm database, in the order of the window's selector.
+inline constexpr std::array<std::string_view, 7> kIsothermModels{
+    "Linear Kd", "Freundlich", "Extended Freundlich", "Langmuir", "Temkin", "Langmuir-Freundlich", "NICA"};
 inline constexpr std::string_view kNicaDonnan = "NICA-Donnan";
 
 }  // namespace db

@@ -9,6 +9,9 @@ namespace db {
 
 // Most fields are one digit; the functions for longer ones are called by those below.
 inline bool is_digit(std::string_view text) { return text.size() == 1 && text.front() >= '0' && text.front() <= '9'; }
+inline bool is_negative_digit(std::string_view text) {
+  return text.size() == 2 && text[0] == '-' && text[1] > '0' && text[1] <= '9';
+}
 std::optional<double> parse_longer_number(std::string_view text);
 bool is_longer_formatted(std::string_view text);
 
@@ -29,7 +32,9 @@ void append_number(std::string& out, double value);
 std::string format_number(double value);
 
 // Whether `text` is just what append_number would make of its value, so that it can be copied as it stands.
-inline bool is_formatted(std::string_view text) { return is_digit(text) || is_longer_formatted(text); }
+inline bool is_formatted(std::string_view text) {
+  return is_digit(text) || is_negative_digit(text) || is_longer_formatted(text);
+}
 
 // A number as the window shows it: as in a file, with one blank in the place of a sign that is not there.
 // numtext(3) is " 3", numtext(-.25) is "-.25".

@@ -3,6 +3,8 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -36,6 +38,7 @@ struct LeadingFields {
   std::string model{};
   std::string description{}, label{};  // no meaning here; kept as they are
   double critical_f = 0;
+  Field critical_f_field{};  // as it stands in the file; a view that ends when the first record is read
 };
 
 class SpeciesReader {
@@ -55,20 +58,37 @@ class SpeciesReader {
   // more than kMaxPairs pairs, or text in place of a number of pairs is an error.
   const Record* next();
   End end() const { return end_; }
+  // The number of the record that was read last, from 1 on.
+  int number() const { return records_; }
+  // Its name; none where its ID number is empty.
+  std::string_view name() const { return record_.head[kId].is_empty() ? std::string_view() : record_.name(); }
+  // Where in the file, in bytes, it begins; at the end of the list, what has ended it.
+  std::uint64_t offset() const { return begin_; }
+  std::uint64_t offset_of(const Field& field) const { return fields_.offset_of(field); }
   // Before the database is replaced: nothing can be read after it.
   void close() { fields_.close(); }
-  // At the end of the list: whether an empty ID number has ended it and more stands after that than an end marker and its
-  // trailer. Reads on to the end of the file.
-  bool hides_more();
+  // At the end of the list: the first field after its ID number that is no part of an end marker and its trailer. Reads on
+  // to the end of the file.
+  struct Rest {
+    std::uint64_t offset = 0;  // in the file, in bytes
+    bool number = false;
+    bool in_marker = false;  // among the fields of the record that has ended the list
+  };
+  std::optional<Rest> rest();
 
   // The value of a field of the record that was read last, in which text is an error; `what` it is to the user.
   double number(const Field& field, const char* what) const;
   // Throws file::Error, or file::Refusal, about the record that was read last.
-  [[noreturn]] void fail(const std::string& reason) const { throw file::Error(located_text(reason)); }
-  [[noreturn]] void refuse(const std::string& reason) const { throw file::Refusal(located_text(reason)); }
+  [[noreturn]] void fail(const std::string& reason) const { fail_as<file::Error>(reason); }
+  [[noreturn]] void refuse(const std::string& reason) const { fail_as<file::Refusal>(reason); }
 
  private:
-  std::string located_text(const std::string& reason) const;
+  std::string place() const;
+  template <typename Error>
+  [[noreturn]] void fail_as(const std::string& reason) const {
+    const std::string where = place() + ": ";
+    throw Error(where + reason + ".", where.size());
+  }
   void require(std::span<Field> fields);
   std::span<const Field> read_pairs(std::span<Field> room, double count, const char* what);
   const Record* read_record();
@@ -77,6 +97,7 @@ class SpeciesReader {
   Record record_;
   std::array<Field, 2 * kMaxPairs> pairs_, mb_pairs_;
   int records_ = 0;
+  std::uint64_t begin_ = 0;
   End end_ = End::None;
 };
 

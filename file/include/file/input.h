@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -15,7 +16,15 @@ namespace file {
 // The one kind of error of the program: an exception whose text is meant for the user and says what failed, where, why and
 // what to do now. The end of a file is never an error.
 class Error : public std::runtime_error {
-  using std::runtime_error::runtime_error;
+ public:
+  // `where`: how many characters at the beginning of the text tell file and record, for which a caller may have other words.
+  explicit Error(const std::string& text, std::size_t where = 0) : runtime_error(text), where_(where) {}
+  bool tells_where() const { return where_ > 0; }
+  // What comes after that, without the point at its end.
+  std::string_view reason() const { return std::string_view(what() + where_, std::strlen(what()) - where_ - 1); }
+
+ private:
+  std::size_t where_;
 };
 
 // The program declines something that it could attempt, because data would be lost or become unreadable. It is shown also

@@ -12,6 +12,7 @@
 #include <string>
 #include <string_view>
 #include <system_error>
+#include <vector>
 
 namespace file {
 
@@ -143,5 +144,12 @@ class OpenFile {
 
 // The operating system itself.
 System& system();
+
+// The arguments of a program without a window, its name left out, as paths of the system, patterns expanded where the
+// command line does not do that. From then on what it prints is taken as UTF-8, where a terminal knows other code pages.
+std::vector<std::string> arguments(int argc, char** argv);
+
+// The path of another file in the folder of `path`.
+std::string beside(const std::string& path, std::string_view name);
 
 }  // namespace file
