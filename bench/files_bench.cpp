@@ -14,6 +14,7 @@
 #include <string>
 #include <vector>
 
+#include "check/check.h"
 #include "data.h"
 #include "db/rewrite.h"
 #include "edit/saving.h"
@@ -50,6 +51,13 @@ void load(benchmark::State& state) {
   for (auto _ : state) benchmark::DoNotOptimize(&load_names(kDatabase));
 }
 BENCHMARK(load);
+
+// The component database is read once, whatever number of databases the checker is given.
+void check_all(benchmark::State& state) {
+  const check::Components components(file::system(), bench::kComponentDatabase);
+  for (auto _ : state) benchmark::DoNotOptimize(check::check_database(file::system(), kDatabase, &components, false).size());
+}
+BENCHMARK(check_all);
 
 void click_last(benchmark::State& state) {
   db::Database open = kOpen;

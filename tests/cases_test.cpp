@@ -14,10 +14,12 @@
 #include <span>
 #include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "app/controls.h"
 #include "app/frmMaindb.h"
+#include "check/check.h"
 #include "db/components.h"
 #include "db/rewrite.h"
 #include "edit/models.h"
@@ -136,6 +138,16 @@ std::string display(const Arguments& arguments) {
   return all + (shown->notice ? " " + *shown->notice : "");
 }
 
+// What the checker says of a database ("x.mdb | CONTENT | COMPONENTS"), with the charges if the name ends in "+".
+std::string check_database(const Arguments& arguments) {
+  const std::string name = arguments[0].substr(0, arguments[0].find('+'));
+  MemorySystem system{{name, arguments[1]}, {"comp.mdb", arguments.size() > 2 ? arguments[2] : support::kComponents}};
+  const check::Components components(system, "comp.mdb");
+  auto findings = check::check_database(system, name, &components, name != arguments[0]);
+  return (components.finding ? check::lines_of(system, "comp.mdb", {*components.finding}) : "") +
+         check::lines_of(system, name, std::move(findings));
+}
+
 // Where letters lead ("F@100": at that time) in a list, from an entry.
 std::string letters(const Arguments& arguments) {
   std::istringstream list(arguments[0]), typed(arguments[2]);
@@ -190,6 +202,7 @@ const std::map<std::string, std::function<std::string(const Arguments&)>> kOpera
        return all + (choices.failure ? " " + *choices.failure : "");
      }},
     {"rewrite", rewrite},
+    {"check", check_database},
     {"display", display},
     {"number", [](const Arguments& a) { return number_or(db::parse_number(a[0]), "none"); }},
     {"formatted", [](const Arguments& a) { return std::string(db::is_formatted(a[0]) ? "yes" : "no"); }},

@@ -1,0 +1,84 @@
+// kelmar-dbcheck: says what is wrong with species databases, also what the editor passes over in silence.
+#include <algorithm>
+#include <cstdio>
+#include <functional>
+#include <map>
+#include <memory>
+#include <utility>
+
+#include "check/check.h"
+#include "file/replacement.h"
+
+namespace {
+
+constexpr const char* kUsage =
+    "Usage: kelmar-dbcheck [-c COMPONENTS] [--charge] FILE...\n"
+    "  -c COMPONENTS  the component database, without which it is comp.mdb in the folder of each FILE\n"
+    "  --charge       compares charges of species with those of components, the third field there\n"
+    "Status: 0 nothing or notes only, 1 warnings, 2 errors, 3 something cannot be read.\n";
+constexpr int kUnreadable = 3;
+
+struct Run {
+  file::System& system = file::system();
+  std::optional<std::string> components{};
+  bool charges = false;
+  std::map<std::string, std::unique_ptr<check::Components>> known{};  // component databases by path, null where none is
+  int status = 0;
+
+  void guarded(const std::function<void()>& step) {
+    try {
+      step();
+    } catch (const file::Error& error) {
+      std::fprintf(stderr, "kelmar-dbcheck: %s\n", error.what());
+      status = kUnreadable;
+    }
+  }
+
+  void show(const std::string& path, std::vector<check::Finding> findings) {
+    for (const check::Finding& finding : findings) status = std::max(status, static_cast<int>(finding.severity));
+    if (std::fputs(check::lines_of(system, path, std::move(findings)).c_str(), stdout) < 0 || std::fflush(stdout) != 0)
+      throw file::Error("the findings cannot be written.");
+  }
+
+  void check(const std::string& path) {
+    const std::string compdb = components.value_or(file::beside(path, "comp.mdb"));
+    if (file::same_place(system, path, compdb))
+      return show(path, {{.rule = "component-database", .reason = "it is checked with the databases that use it"}});
+    const auto [at, is_new] = known.try_emplace(compdb);
+    file::Status found;
+    if (is_new && (components || system.status(compdb, file::Follow::Links, found) || found.type != file::Type::Missing))
+      guarded([&] {
+        at->second = std::make_unique<check::Components>(system, compdb);
+        if (at->second->finding) show(compdb, {*at->second->finding});
+      });
+    std::vector<check::Finding> findings = check::check_database(system, path, at->second.get(), charges);
+    if (!at->second)
+      findings.push_back({.rule = "no-components", .reason = "its components are not checked, for want of " + compdb});
+    show(path, std::move(findings));
+  }
+};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  std::vector<std::string> arguments = file::arguments(argc, argv), files;
+  Run run;
+  bool help = false, known = true;
+  for (std::size_t i = 0; i < arguments.size(); ++i) {
+    const std::string& argument = arguments[i];
+    if (!argument.starts_with('-'))
+      files.push_back(argument);
+    else if (argument == "--charge")
+      run.charges = true;
+    else if (argument == "-c" && i + 1 < arguments.size())
+      run.components = arguments[++i];
+    else
+      (argument == "--help" ? help : known) = argument == "--help";
+  }
+  if (help || !known || files.empty()) {
+    std::fputs(kUsage, help ? stdout : stderr);
+    return help ? 0 : kUnreadable;
+  }
+  for (const std::string& path : files) run.guarded([&] { run.check(path); });
+  return run.status;
+}
