@@ -53,7 +53,7 @@ struct Check {
     } catch (const file::Error& error) {
       if (!error.tells_where()) throw;
       add(Error, reader_.number() == 0 ? "first-line" : "unreadable-record",
-          std::string(error.reason()) + ": the editor reads no further, and saves nothing");
+          std::string(error.reason()) + ": the editor reads no further; no save is made");
     }
     if (other_forms_ > 0)
       add_to_file(first_other_form_, Note, "number-form",
@@ -95,7 +95,7 @@ struct Check {
 
   bool check_records() {
     while ((record_ = reader_.next())) {
-      if (reader_.number() == 1 && !record_->head[db::kId].number()) {
+      if (const Field& id = record_->head[db::kId]; reader_.number() == 1 && !id.text.empty() && !id.number()) {
         add(Error, "first-line", "a text stands in the place of the first ID number, as in another kind; no save is made");
         return false;
       }
@@ -218,7 +218,7 @@ struct Check {
       add_to_file(end - (end > 0), Warning, "no-end-marker", "the file ends without an end marker");
     if (reader_.end() == End::Empty)
       add(rest ? Error : Note, "empty-line",
-          std::string("an empty line or field ends the list") + (rest ? "; what stands behind it hinders a save" : ""));
+          std::string("an empty line or field ends the list") + (rest ? "; more stands behind it; no save is made" : ""));
     else if (rest && rest->in_marker)
       add(Error, "id-zero", "its ID number is 0, which ends the list; a save leaves it out, and all behind it");
     else if (rest)

@@ -44,15 +44,16 @@ struct Run {
     const std::string compdb = components.value_or(file::beside(path, "comp.mdb"));
     if (file::same_place(system, path, compdb))
       return show(path, {{.rule = "component-database", .reason = "it is checked with the databases that use it"}});
-    const auto [at, is_new] = known.try_emplace(compdb);
+    const bool is_new = !known.contains(compdb);
+    auto& its = known[compdb];
     file::Status found;
     if (is_new && (components || system.status(compdb, file::Follow::Links, found) || found.type != file::Type::Missing))
       guarded([&] {
-        at->second = std::make_unique<check::Components>(system, compdb);
-        if (at->second->finding) show(compdb, {*at->second->finding});
+        its = std::make_unique<check::Components>(system, compdb);
+        if (its->finding) show(compdb, {*its->finding});
       });
-    std::vector<check::Finding> findings = check::check_database(system, path, at->second.get(), charges);
-    if (!at->second)
+    std::vector<check::Finding> findings = check::check_database(system, path, its.get(), charges);
+    if (!its)
       findings.push_back({.rule = "no-components", .reason = "its components are not checked, for want of " + compdb});
     show(path, std::move(findings));
   }

@@ -55,6 +55,14 @@ std::string fields(const Arguments& arguments) {
   return all;
 }
 
+// Whether the checker says that the editor cannot save the database.
+bool is_said_to_be_refused(MemorySystem& system, const std::string& path) {
+  const auto findings = check::check_database(system, path, nullptr, false);
+  return std::ranges::any_of(findings, [](const check::Finding& finding) {
+    return finding.severity == check::Severity::Error && finding.reason.ends_with("no save is made");
+  });
+}
+
 // What a rewrite makes of a database of that name, with a model of the window if one is given, or its message.
 std::string rewrite(const Arguments& arguments) {
   const auto& [name, content] = std::tie(arguments[0], arguments[1]);
@@ -66,8 +74,11 @@ std::string rewrite(const Arguments& arguments) {
     EXPECT_EQ(rewrite.commit(), std::nullopt);
   } catch (const file::Error&) {
     EXPECT_EQ(system.content(name), content);
+    EXPECT_TRUE(is_said_to_be_refused(system, name));
     throw;
   }
+  MemorySystem before{{name, content}};
+  EXPECT_FALSE(is_said_to_be_refused(before, name));
   std::string once = system.content(name);
   EXPECT_TRUE(once == content || rewrite({name, once}) == once) << "not stable";
   return once;
