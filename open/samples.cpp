@@ -30,6 +30,16 @@ class Alone {
   int folder_;
 };
 
+void fill(file::System& system, const fs::path& from, const fs::path& to) {
+  fs::create_directory(to);
+  for (const auto& entry : fs::directory_iterator(from)) {
+    if (!entry.is_regular_file()) continue;
+    const std::string path = to / entry.path().filename();
+    file::OpenFile file(system);
+    file::require(create(system, path, file::read_whole(system, entry.path(), file::kLargestDatabase), file), "write", path);
+  }
+}
+
 // Under another name first: a copy that is cut short is not taken for the user's samples.
 void copy(file::System& system, const fs::path& from, const fs::path& to) {
   fs::create_directories(to.parent_path());
@@ -37,14 +47,14 @@ void copy(file::System& system, const fs::path& from, const fs::path& to) {
   if (fs::exists(fs::symlink_status(to))) return;
   const fs::path fresh = to.string() + ".new";
   fs::remove_all(fresh);
-  fs::create_directory(fresh);
-  for (const auto& entry : fs::directory_iterator(from)) {
-    if (!entry.is_regular_file()) continue;
-    const std::string path = fresh / entry.path().filename();
-    file::OpenFile file(system);
-    file::require(create(system, path, file::read_whole(system, entry.path(), file::kLargestDatabase), file), "write", path);
+  try {
+    fill(system, from, fresh);
+    fs::rename(fresh, to);
+  } catch (...) {
+    std::error_code ignored;  // it is removed before the next copy
+    fs::remove_all(fresh, ignored);
+    throw;
   }
-  fs::rename(fresh, to);
 }
 
 }  // namespace
