@@ -67,7 +67,8 @@ std::string data_folder(const char* data_home, const char* home) {
 }
 
 std::string sample(file::System& system, const std::string& installed, const std::string& data_folder) {
-  const std::string own = data_folder + "/kelmar-dbedit/samples", shown = own + "/complex.MDB";
+  const std::string own = data_folder + "/kelmar-dbedit/samples";
+  std::string shown = own + "/complex.MDB";
   std::string why;
   try {
     copy(system, installed, own);
