@@ -1,13 +1,13 @@
 // The tables in tests/disk: what the program relies on in a file system, what a replacement makes of it, and what the window
-// makes of its failures, on the real disk and on the files in memory on which all tests of faults rest. "= TITLE" begins in
-// an empty folder; letters after the "=" name the worlds that alone play a case: m the files in memory, d a disk of POSIX, r
-// such a disk by root, w a disk of Windows. Below it stand operations, with "=> RESULT" where they have one ("FOLDER" is the
-// folder's path, other characters as in support::plain()). "fail CALL N ERROR" makes the Nth such call of what follows fail,
-// or with * each, "refuse FUNCTION ERROR" that function of the system's own library (on Windows with an error's number);
-// "after CALL LINE" and "at CALL N LINE" do something after each such call, or after the Nth; "waiting N LINE" while the
-// program waits for the Nth time, "asked LINE" while the next box stands, "before-lock LINE" before a file that was opened
-// is locked; in these LINEs "==" stands for "=>". A line of a story (player/player.h) is played in a window, and gives its
-// message boxes but for questions.
+// and the launcher make of its failures, on the real disk and on the files in memory on which all tests of faults rest. "=
+// TITLE" begins in an empty folder; letters after the "=" name the worlds that alone play a case: m the files in memory, d a
+// disk of POSIX, r such a disk by root, w a disk of Windows. Below it stand operations, with "=> RESULT" where they have one
+// ("FOLDER" is the folder's path, other characters as in support::plain()). "fail CALL N ERROR" makes the Nth such call of
+// what follows fail, or with * each, "refuse FUNCTION ERROR" that function of the system's own library (on Windows with an
+// error's number); "after CALL LINE" and "at CALL N LINE" do something after each such call, or after the Nth; "waiting N
+// LINE" while the program waits for the Nth time, "asked LINE" while the next box stands, "before-lock LINE" before a file
+// that was opened is locked; in these LINEs "==" stands for "=>". A line of a story (player/player.h) is played in a window,
+// and gives its message boxes but for questions.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -25,6 +25,7 @@
 
 #include "disk/world.h"
 #include "file/replacement.h"
+#include "open/hand_over.h"
 #include "player/player.h"
 #include "support/memory_system.h"
 #include "support/text.h"
@@ -243,6 +244,15 @@ class Script {
     return disk::flushed + (disk::flushed.empty() || !error ? "" : ", ") + said(error);
   }
 
+  // What a launcher says that hands over the database at `path`; its end is "end NAME".
+  std::string hand_over(Text name, Text path) {
+    return told([&]() -> std::optional<std::string> {
+      const launcher::Database database = launcher::enter(watched_, path);
+      launched_.try_emplace(name, watched_).first->second.write(database);
+      return database.notice;
+    });
+  }
+
   // What the program does.
   std::string perform(Text verb, Text a, Text b) {
     const auto [first, rest] = split(b);
@@ -254,6 +264,8 @@ class Script {
     if (verb == "begin") return begun_.emplace(system_, "dbnamep.mdb", a, kSpared), "";
     if (verb == "copy") return told([&] { return file::copy_over(watched_, a, b, kSpared); });
     if (verb == "read-whole") return told([&] { return std::optional(file::read_whole(watched_, b, std::stoul(a))); });
+    if (verb == "hand-over") return hand_over(a, b);
+    if (verb == "end") return launched_.erase(a), "";
     if (verb == "open") return program_->form.state().open.path;
     if (verb == "dialogs-begin-in") return program_->form.state().dialog_folder;
     if (verb != "finish") return call(verb, a, b);
@@ -333,6 +345,7 @@ class Script {
   support::MemorySystem* const memory_;
   std::map<std::string, OpenFile> held_;
   std::optional<file::Replacement> begun_;
+  std::map<std::string, launcher::HandOver> launched_;
   std::optional<player::Player> program_;
   std::string asked_;
   const std::ptrdiff_t usual_ = disk::open_files();

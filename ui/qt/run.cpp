@@ -1,7 +1,9 @@
 #include <QApplication>
+#include <QMessageBox>
 #include <QSettings>
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
 
 #include "ui/backend.h"
 #include "ui/qt/dialogs.h"
@@ -24,24 +26,34 @@ void end_without_window(QtMsgType type, const QMessageLogContext&, const QString
   std::exit(1);
 }
 
+// The toolkit, as long as it lives.
+class Toolkit {
+ public:
+  Toolkit(char* program, std::string_view shown) : argv_{program, nullptr} {
+    name = shown;
+    // The program remembers nothing from run to run: for what the toolkit and its file dialog would note in the temporary
+    // folder and in the user's home, there is no folder.
+    constexpr const char* kNowhere = "/dev/null";
+    qputenv("TMPDIR", kNowhere);
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, kNowhere);
+
+    const auto usual = qInstallMessageHandler(end_without_window);
+    application_.emplace(argc_, argv_);
+    qInstallMessageHandler(usual);
+  }
+
+ private:
+  int argc_ = 1;  // no command line for the toolkit
+  char* argv_[2];
+  std::optional<QApplication> application_;
+};
+
 }  // namespace
 
 int run(char* program, const std::function<std::unique_ptr<Form>(Dialogs&)>& make_form) {
   qt::QtDialogs dialogs;
   const auto form = make_form(dialogs);
-  name = form->definition().program;
-
-  // The program remembers nothing from run to run: for what the toolkit and its file dialog would note in the temporary
-  // folder and in the user's home, there is no folder.
-  constexpr const char* kNowhere = "/dev/null";
-  qputenv("TMPDIR", kNowhere);
-  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, kNowhere);
-
-  const auto usual = qInstallMessageHandler(end_without_window);
-  int argc = 1;  // the program has no command line, also none for the toolkit
-  char* argv[] = {program, nullptr};
-  const QApplication application(argc, argv);
-  qInstallMessageHandler(usual);
+  const Toolkit toolkit(program, form->definition().program);
 
   qt::MainWindow window(*form);
   form->load();
@@ -51,6 +63,17 @@ int run(char* program, const std::function<std::unique_ptr<Form>(Dialogs&)>& mak
   window.push();
   window.show();
   return QApplication::exec();
+}
+
+void tell(char* program, std::string_view text, std::string_view title) {
+  const std::string path = program;
+  const std::string shown = path.substr(path.rfind('/') + 1);
+  std::fprintf(stderr, "%s: %s\n", shown.c_str(), std::string(text).c_str());
+  const Toolkit toolkit(program, shown);
+  QMessageBox box(QMessageBox::Information, qt::from_bytes(title), {}, QMessageBox::Ok);
+  box.setTextFormat(Qt::PlainText);
+  box.setText(qt::from_path(text));
+  box.exec();
 }
 
 }  // namespace ui

@@ -41,4 +41,8 @@ class Dialogs {
 // standard error and status 1. `program` is the name that it was started by.
 int run(char* program, const std::function<std::unique_ptr<Form>(Dialogs&)>& make_form);
 
+// Says something in a window of its own, before or without run(), and on standard error in any case; only in ui/qt. Where
+// there is no display, the program ends with status 1.
+void tell(char* program, std::string_view text, std::string_view title);
+
 }  // namespace ui
