@@ -25,7 +25,7 @@
 
 #include "disk/world.h"
 #include "file/replacement.h"
-#include "open/hand_over.h"
+#include "launcher/hand_over.h"
 #include "player/player.h"
 #include "support/memory_system.h"
 #include "support/text.h"

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""The launcher in an installed tree, mostly with a stand-in for the editor that tells what it finds: open.py CMAKE BUILD"""
+"""The launcher in an installed tree, mostly with a stand-in for the editor that tells what it finds: launcher.py CMAKE BUILD"""
 import os
 import shutil
 import signal

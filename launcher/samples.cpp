@@ -1,4 +1,4 @@
-#include "samples.h"
+#include "launcher/samples.h"
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -7,7 +7,7 @@
 #include <filesystem>
 
 #include "file/replacement.h"
-#include "open/hand_over.h"
+#include "launcher/hand_over.h"
 
 namespace launcher {
 namespace {

@@ -12,8 +12,8 @@
 #include <string_view>
 
 #include "file/input.h"
-#include "open/hand_over.h"
-#include "samples.h"
+#include "launcher/hand_over.h"
+#include "launcher/samples.h"
 #include "ui/backend.h"
 
 namespace {

@@ -1,4 +1,4 @@
-#include "open/hand_over.h"
+#include "launcher/hand_over.h"
 
 #include <algorithm>
 #include <optional>
