@@ -141,6 +141,7 @@ const ui::WindowDef& window_def() {
   static const Table table;
   static const ui::WindowDef def{
       .program = "kelmar-dbedit",
+      .desktop = "org.kelmar.dbedit",
       .caption = "Sorption / complexation database editor for Kelmar",
       .width = 9165,
       .height = 7950,

@@ -1,4 +1,6 @@
 #include <QApplication>
+#include <QDir>
+#include <QIcon>
 #include <QMessageBox>
 #include <QSettings>
 #include <cstdio>
@@ -8,6 +10,7 @@
 #include "ui/backend.h"
 #include "ui/qt/dialogs.h"
 #include "ui/qt/main_window.h"
+#include "ui/qt/text.h"
 
 namespace ui {
 namespace {
@@ -54,6 +57,12 @@ int run(char* program, const std::function<std::unique_ptr<Form>(Dialogs&)>& mak
   qt::QtDialogs dialogs;
   const auto form = make_form(dialogs);
   const Toolkit toolkit(program, form->definition().program);
+
+  // X takes the icon from the window, Wayland from the desktop's entry. The program holds it in several sizes.
+  QGuiApplication::setDesktopFileName(qt::from_bytes(form->definition().desktop));
+  QIcon icon;
+  for (const QFileInfo& size : QDir(":/icon").entryInfoList()) icon.addFile(size.filePath());
+  QGuiApplication::setWindowIcon(icon);
 
   qt::MainWindow window(*form);
   form->load();

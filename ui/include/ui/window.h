@@ -49,6 +49,7 @@ struct ControlDef {
 
 struct WindowDef {
   std::string_view program{};  // its name in messages on a terminal
+  std::string_view desktop{};  // its name in the desktop's list of programs
   std::string_view caption{};
   int width = 0, height = 0;  // of the client area, in twips
   int row = 0;                // from one row of boxes to the next, in twips
