@@ -66,13 +66,14 @@ with tempfile.TemporaryDirectory() as tree:
     same(re.match(r"kelmar-dbedit \((.*)\)", text(doc, "changelog.gz"))[1], VERSION)
     same(re.findall(r"^version: *[\"']?([^\"'\n]*)", text(ROOT, "CITATION.cff"), re.M) or [VERSION], [VERSION])
 
-    # The samples' notice in full, and every picture of the guide.
+    # The samples' notice in full, and every file that the guide names.
     copyright_file = text(doc, "copyright")
     for line in text(ROOT, "samples/NOTICE.txt").split("\n"):
         assert line.strip() in copyright_file, line
-    if os.path.exists(os.path.join(doc, "guide.md")):
-        for picture in re.findall(r"!\[[^\]]*\]\(([^)]*)\)", text(doc, "guide.md")):
-            assert os.path.exists(os.path.join(doc, picture)), picture
+    named = [name.partition("#")[0] for name in re.findall(r'(?:src="|\]\()([^")]*)["\)]', text(doc, "guide.md"))]
+    assert any(name.endswith(".png") for name in named), named
+    for name in named:
+        assert os.path.exists(os.path.join(doc, name)), name
 
     for checker, file in (["desktop-file-validate"], "applications/%s.desktop" % ID), \
                          (["appstreamcli", "validate", "--no-net", "--pedantic"], metainfo):

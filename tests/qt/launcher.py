@@ -29,8 +29,6 @@ tree, work = os.path.join(root.name, "tree"), os.path.join(root.name, "wörk, he
 subprocess.run([sys.argv[1], "--install", sys.argv[2], "--prefix", tree], check=True, stdout=subprocess.DEVNULL)
 launcher, editor = (os.path.join(tree, "bin", name) for name in ("kelmar-dbedit-open", "kelmar-dbedit"))
 installed = os.path.join(tree, "share", "kelmar-dbedit", "samples")
-if not os.path.isdir(installed):
-    shutil.copytree(SAMPLES, installed, ignore=shutil.ignore_patterns("*.txt", "*.dat"))
 for name in os.listdir(installed):
     os.chmod(os.path.join(installed, name), 0o444)
 
