@@ -1,3 +1,4 @@
+// What never changes about a control, in one table.
 #include "app/controls.h"
 
 #include <string>

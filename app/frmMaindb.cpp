@@ -1,3 +1,4 @@
+// The start, the choice of files and models, and the list of species; frmMaindb_species.cpp has what is done to one species.
 #include "app/frmMaindb.h"
 
 #include <new>

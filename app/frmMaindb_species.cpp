@@ -1,3 +1,4 @@
+// The handlers that show, change, enter and delete a species.
 #include <algorithm>
 
 #include "app/frmMaindb.h"

@@ -1,3 +1,4 @@
+// kelmar-dbedit: the form in a window of the toolkit that is linked.
 #include <memory>
 
 #include "app/frmMaindb.h"

@@ -1,3 +1,4 @@
+// Makes the databases that are measured, and reads them by ways to compare with.
 #include "data.h"
 
 #include <fstream>

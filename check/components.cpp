@@ -1,3 +1,4 @@
+// Which components the editor would find, by number and by name.
 #include <cmath>
 #include <limits>
 

@@ -1,3 +1,4 @@
+// The rules, in the order in which a reader of the file meets what they are about.
 #include <algorithm>
 #include <array>
 #include <cmath>

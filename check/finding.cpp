@@ -1,3 +1,4 @@
+// Findings as lines.
 #include <algorithm>
 #include <functional>
 

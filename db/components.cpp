@@ -1,3 +1,4 @@
+// Lookups in the component database.
 #include "db/components.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// The inner loop of every reading: where fields end.
 #include "db/field_reader.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// The two forms of a number: as it is read and as it is written.
 #include "db/number.h"
 
 #include <array>

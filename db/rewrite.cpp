@@ -1,3 +1,4 @@
+// The form in which records are written, and what a rewrite refuses lest something be lost.
 #include "db/rewrite.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// The one scan of a species database, with all that may be wrong in it.
 #include "db/species_reader.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// A record as texts of the window.
 #include "edit/display.h"
 
 #include <algorithm>

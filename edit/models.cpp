@@ -1,3 +1,4 @@
+// The isotherm models, and by them the components that are offered.
 #include "edit/models.h"
 
 #include <algorithm>

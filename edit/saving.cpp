@@ -1,3 +1,4 @@
+// Texts of the window as a record, and the three ways in which it reaches the database.
 #include "edit/saving.h"
 
 #include <algorithm>

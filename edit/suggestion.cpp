@@ -1,3 +1,4 @@
+// A free ID number from the components, by sorted numbers in use.
 #include "edit/suggestion.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Reading, and the words for what fails.
 #include "file/input.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Files of Linux and its like.
 #include <fcntl.h>
 #include <pwd.h>
 #include <sys/file.h>

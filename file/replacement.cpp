@@ -1,3 +1,4 @@
+// The only place that can lose a database: each call of it is made to fail in tests.
 #include "file/replacement.h"
 
 #include <new>

@@ -1,3 +1,4 @@
+// Files of Windows.
 #include <windows.h>
 // After it, whose types they need.
 #include <shellapi.h>

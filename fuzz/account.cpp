@@ -1,3 +1,4 @@
+// Reads a database once more, by code that the program does not have.
 #include "account.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Plays events in any order, and compares the files with the account after each.
 #include "session.h"
 
 #include <algorithm>

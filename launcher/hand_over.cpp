@@ -1,3 +1,4 @@
+// What is written into the folder of a database, and taken away again.
 #include "launcher/hand_over.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// The one copy of the samples.
 #include "launcher/samples.h"
 
 #include <fcntl.h>

@@ -1,3 +1,4 @@
+// The code page as a table, and UTF-8 by hand, as the standard library has neither.
 #include "text/code_page.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// From twips to pixels.
 #include "ui/layout.h"
 
 #include <cmath>

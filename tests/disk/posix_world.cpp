@@ -1,3 +1,4 @@
+// What the tables of tests/disk do to a disk of Linux.
 #include <grp.h>
 #include <gtest/gtest.h>
 #include <sys/file.h>

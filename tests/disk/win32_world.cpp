@@ -1,3 +1,4 @@
+// What the tables of tests/disk do to a disk of Windows.
 #include <windows.h>
 // After it.
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Events and states as lines, on a form without a window.
 #include "player/player.h"
 
 #include <algorithm>

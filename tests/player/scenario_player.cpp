@@ -1,3 +1,4 @@
+// Plays the events of standard input without a display.
 #include <string_view>
 
 #include "player/player.h"

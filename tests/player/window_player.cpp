@@ -1,3 +1,4 @@
+// Plays events of keys and mouse, whatever the toolkit.
 #include "player/window_player.h"
 
 #include <chrono>

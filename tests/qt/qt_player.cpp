@@ -1,3 +1,4 @@
+// Does a person's part to widgets of Qt.
 #include "qt/qt_player.h"
 
 #include <QAccessible>

@@ -1,3 +1,4 @@
+// Files in memory, which behave as tests/disk says of real ones.
 #include "support/memory_system.h"
 
 #include <algorithm>

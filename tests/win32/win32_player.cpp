@@ -1,3 +1,4 @@
+// Does a person's part to a window of Windows, by its messages.
 #include "win32/win32_player.h"
 
 #include <objbase.h>

@@ -1,3 +1,4 @@
+// The window in widgets of Qt: shows what the form holds, and tells the form what a user does.
 #include "ui/qt/main_window.h"
 
 #include <QAction>

@@ -1,3 +1,4 @@
+// Qt's part of a program's start.
 #include <QApplication>
 #include <QDir>
 #include <QIcon>

@@ -1,3 +1,4 @@
+// Windows' message boxes and file dialogs.
 #include "ui/win32/dialogs.h"
 
 #include <shobjidl.h>

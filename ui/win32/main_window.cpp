@@ -1,3 +1,4 @@
+// The window in Windows' own controls: shows what the form holds, and tells the form what a user does.
 #include "ui/win32/main_window.h"
 
 #include <initguid.h>

@@ -1,3 +1,4 @@
+// Windows' part of a program's start.
 #include <objbase.h>
 
 #include "ui/backend.h"
