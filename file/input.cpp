@@ -49,7 +49,7 @@ std::string named(std::string_view name) {
     shown.replace(head, tail - head, "...");
   }
   for (char& c : shown)
-    if (c == '\r' || c == '\n') c = ' ';
+    if (c == '\r' || c == '\n' || c == '\0') c = ' ';
   return shown;
 }
 

@@ -3,7 +3,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -21,7 +20,10 @@ class Error : public std::runtime_error {
   explicit Error(const std::string& text, std::size_t where = 0) : runtime_error(text), where_(where) {}
   bool tells_where() const { return where_ > 0; }
   // What comes after that, without the point at its end.
-  std::string_view reason() const { return std::string_view(what() + where_, std::strlen(what()) - where_ - 1); }
+  std::string_view reason() const {
+    const std::string_view text = what();
+    return text.substr(where_, text.size() - where_ - 1);
+  }
 
  private:
   std::size_t where_;
@@ -33,8 +35,8 @@ class Refusal : public Error {
   using Error::Error;
 };
 
-// A name, path or text for a message: one of more than 80 characters is shortened in the middle, and a line end is shown as
-// a blank, so that no message grows beyond the screen.
+// A name, path or text for a message: one of more than 80 characters is shortened in the middle, and a line end or a zero
+// byte is shown as a blank, so that no message grows beyond the screen, or ends before its end.
 std::string named(std::string_view name);
 
 // Why a call failed, in the program's own words: the same on every system.
