@@ -75,16 +75,25 @@ bool FieldReader::begin_record() {
   return !at_end() && (static_cast<unsigned char>(*next_) > ',' || !only_blanks_left());
 }
 
-// Looks ahead without taking anything: what only begins like the end may be a record.
-bool FieldReader::only_blanks_left() const {
+// Looks ahead without taking anything: what only begins like the end may be a record. What it comes upon is remembered, so
+// that a file of blank fields is not looked through for each of them.
+bool FieldReader::only_blanks_left() {
+  if (offset() < something_) return false;
   int marks = 0;
-  const auto is_nothing = [&marks](char c) { return is_in(kEmpty, c) || (c == kCtrlZ && ++marks == 1); };
-  if (!std::all_of(next_, end_, is_nothing)) return false;
+  const auto something_in = [&](std::span<const char> bytes, std::uint64_t offset) {
+    const auto it =
+        std::ranges::find_if_not(bytes, [&](char c) { return is_in(kEmpty, c) || (c == kCtrlZ && ++marks == 1); });
+    if (it == bytes.end()) return false;
+    if (*it != kCtrlZ) something_ = offset + static_cast<std::uint64_t>(it - bytes.begin());
+    return true;
+  };
+  if (something_in({next_, end_}, offset())) return false;
   std::array<char, 4096> ahead;
-  for (std::uint64_t offset = offset_;;) {
-    const std::size_t got = input_.read(offset, ahead.data(), ahead.size());
-    if (got == 0 || !std::all_of(ahead.begin(), ahead.begin() + got, is_nothing)) return got == 0;
-    offset += got;
+  for (std::uint64_t at = offset_;;) {
+    const std::size_t got = input_.read(at, ahead.data(), ahead.size());
+    if (got == 0) return true;
+    if (something_in(std::span(ahead).first(got), at)) return false;
+    at += got;
   }
 }
 

@@ -79,7 +79,7 @@ class FieldReader {
   void make_room();
   bool refill();
   bool at_end() { return next_ == end_ && !refill(); }
-  bool only_blanks_left() const;
+  bool only_blanks_left();
   bool next_of_any_kind(Field& field);
 
   file::Input input_;
@@ -92,6 +92,7 @@ class FieldReader {
   const char* next_;               // the first byte that belongs to no field yet
   const char* end_;                // after the last byte read
   std::uint64_t offset_ = 0;       // of end_, in the file
+  std::uint64_t something_ = 0;    // where in the file there is more than blank fields; 0: not known
   bool file_ended_ = false;
 };
 
