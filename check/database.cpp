@@ -1,6 +1,7 @@
 // The rules, in the order in which a reader of the file meets what they are about.
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cmath>
 #include <limits>
 #include <utility>
@@ -26,7 +27,6 @@ std::string component(double number) { return "component " + db::format_number(n
 // than reading the database does.
 template <typename Key>
 struct Firsts {
-  Firsts() { keys_.reserve(db::kMaxRecords); }
   int first_with(Key key) {
     keys_.push_back(std::move(key));
     for (std::size_t slot = std::hash<Key>()(keys_.back());; ++slot) {
@@ -54,7 +54,7 @@ struct Check {
     } catch (const file::Error& error) {
       if (!error.tells_where()) throw;
       add(Error, reader_.number() == 0 ? "first-line" : "unreadable-record",
-          std::string(error.reason()) + ": the editor reads no further; no save is made");
+          std::string(error.reason()) + "; the editor reads no further; no save is made");
     }
     if (other_forms_ > 0)
       add_to_file(first_other_form_, Note, "number-form",
@@ -96,10 +96,8 @@ struct Check {
 
   bool check_records() {
     while ((record_ = reader_.next())) {
-      if (const Field& id = record_->head[db::kId]; reader_.number() == 1 && !id.text.empty() && !id.number()) {
-        add(Error, "first-line", "a text stands in the place of the first ID number, as in another kind; no save is made");
-        return false;
-      }
+      if (const Field& id = record_->head[db::kId]; reader_.number() == 1 && !id.text.empty() && !id.number())
+        return add(Error, "first-line", "a text stands in the place of the first ID number; no save is made"), false;
       check_name();
       check_numbers();
       check_components();
@@ -126,7 +124,7 @@ struct Check {
       check_number(record_->head[i], i >= db::kUnused8 && i <= db::kUnused11 ? Warning : Error);
     for (std::size_t i = 0; i < record_->pairs.size(); i += 2) check_number(record_->pairs[i]);
     if (record_->has_mb) check_number(record_->mb_count);
-    for (const Field& field : record_->mb_pairs) check_number(field);
+    for (std::size_t i = 0; i < record_->mb_pairs.size(); i += 2) check_number(record_->mb_pairs[i]);
   }
 
   // Nearly all stand as the editor writes them.
@@ -157,20 +155,20 @@ struct Check {
     }
     for (std::size_t i = 1; i < record_->mb_pairs.size(); i += 2) {
       const Field& field = record_->mb_pairs[i];
-      const auto number = field.number();
-      if (number && !is_among(*number, count))
-        add(Warning, "mb-component", component(*number) + " has an M.B. stoichiometry, and is not in its reaction", &field);
+      const double number = number_of(field);
+      if (field.is_empty() || (!std::isnan(number) && !is_among(number, count)))
+        add(Warning, "mb-component",
+            (field.is_empty() ? "a component without a number" : component(number)) +
+                " has an M.B. stoichiometry, and is not in its reaction",
+            &field);
     }
   }
 
   // Of a component or a species, kNone for what is no number. Nearly all are a few digits.
   double number_of(const Field& field) {
-    constexpr std::size_t kFew = 9;
-    const char* const end = field.text.data() + std::min(field.text.size(), kFew);
-    const char* at = field.text.data();
+    const char *const begin = field.text.data(), *const end = begin + field.text.size();
     int whole = 0;
-    while (at != end && *at >= '0' && *at <= '9') whole = 10 * whole + (*at++ - '0');
-    if (at == end && field.text.size() <= kFew && !field.quoted && !field.text.starts_with('0') && whole > 0) return whole;
+    if (std::from_chars(begin, end, whole).ptr == end && whole > 0 && *begin != '0' && !field.quoted) return whole;
     check_number(field);
     return field.is_empty() ? kNone : field.number().value_or(kNone);
   }
@@ -224,7 +222,7 @@ struct Check {
       add(Error, "id-zero", "its ID number is 0, which ends the list; a save leaves it out, and all behind it");
     else if (rest)
       add_to_file(rest->offset, rest->number ? Error : Warning, "behind-end",
-                  std::string(rest->number ? "records stand" : "text stands") + " behind the end: a save leaves them out");
+                  std::string(rest->number ? "records stand" : "text stands") + " behind the end, which a save leaves out");
   }
 
   db::Kind kind_;

@@ -64,17 +64,18 @@ struct Run {
 int main(int argc, char** argv) {
   std::vector<std::string> arguments = file::arguments(argc, argv), files;
   Run run;
-  bool help = false, known = true;
-  for (std::size_t i = 0; i < arguments.size(); ++i) {
-    const std::string& argument = arguments[i];
-    if (!argument.starts_with('-'))
-      files.push_back(argument);
-    else if (argument == "--charge")
+  bool options = true, help = false, known = true;
+  for (auto at = arguments.begin(); at != arguments.end(); ++at) {
+    if (!options || !at->starts_with('-'))
+      files.push_back(*at);
+    else if (*at == "--")
+      options = false;
+    else if (*at == "--charge")
       run.charges = true;
-    else if (argument == "-c" && i + 1 < arguments.size())
-      run.components = arguments[++i];
+    else if (*at == "-c" && at + 1 != arguments.end())
+      run.components = *++at;
     else
-      (argument == "--help" ? help : known) = argument == "--help";
+      (*at == "--help" ? help : known) = *at == "--help";
   }
   if (help || !known || files.empty()) {
     std::fputs(kUsage, help ? stdout : stderr);

@@ -17,7 +17,7 @@ USAGE = "Usage: kelmar-dbcheck [-c COMPONENTS] [--charge] FILE...\n"
 NO_COMPONENTS = "%s:1: note: its components are not checked, for want of comp.mdb [no-components]\n"
 UNKNOWN = '%s:2: warning: record 1 "a": component 7 is not in %s: it shows as #7 [component-unknown]\n'
 NO_END = "%s:%d: warning: the file ends without an end marker [no-end-marker]\n"
-CUT = '%s:1: error: record 1 "a": the file ends inside the record: the editor reads no further; no save is made [unreadable-record]\n'
+CUT = '%s:1: error: record 1 "a": the file ends inside the record; the editor reads no further; no save is made [unreadable-record]\n'
 MISSING = "kelmar-dbcheck: cannot open %s: No such file or directory.\n"
 ITSELF = "comp.mdb:1: note: it is checked with the databases that use it [component-database]\n"
 FILES = {
@@ -59,6 +59,7 @@ CASES = [
     (True, [], 3, "", USAGE),
     (True, ["-c"], 3, "", USAGE),
     (True, ["--chrage", "sound.mdb"], 3, "", USAGE),
+    (True, ["--", "-.mdb"], 3, "", MISSING % "-.mdb"),
 ]
 
 

@@ -136,7 +136,7 @@ lstReactions shown [Dummy] 17
   [=SOSO3-1.5]
   [(=SOH)2Cu+]
   [(=SOH)2CuOH]
-  [(=SO)2CuPO3-.7]
+  [(=SO)2CuPO3-]
   [Dummy]
 txtID shown [ 0]
 txtName shown [Dummy]
