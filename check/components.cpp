@@ -24,8 +24,8 @@ Components::Components(file::System& system, std::string from) : path(std::move(
     if (reader.cut_short()) reader.fail("the file ends inside the record");
   } catch (const file::Error& error) {
     if (!error.tells_where()) throw;
-    finding = {reader.offset(), Severity::Error, "unreadable-record",
-               std::string(error.reason()) + ": the editor finds no number by a name", reader.record()};
+    finding = {reader.offset(), reader.record() <= db::kLookupRecords ? Severity::Error : Severity::Warning,
+               "unreadable-record", std::string(error.reason()), reader.record()};
   }
   for (auto& [number, component] : components_) {
     const std::string name(db::trimmed(component.name));

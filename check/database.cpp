@@ -118,6 +118,7 @@ struct Check {
   }
 
   void check_numbers() {
+    if (const Field& name = record_->head[db::kName]; name.number()) check_number(name);  // it takes another form, too
     if (const int first = ids_.first_with(number_of(record_->head[db::kId])); first != reader_.number())
       add(Warning, "id-twice", "its ID number is that of record " + std::to_string(first) + ", too");
     for (std::size_t i = db::kDhr; i < record_->head.size(); ++i)  // four of them mean nothing to the editor
@@ -134,8 +135,10 @@ struct Check {
     if (!value)
       add(severity, "text-number", "\"" + file::named(field.text) + "\" stands where a number belongs", &field);
     else if (!field.quoted && !field.text.empty() && std::abs(*value) < db::kTooLarge &&
-             db::format_number(*value) != field.text && ++other_forms_ == 1)
-      first_other_form_ = reader_.offset_of(field);
+             db::format_number(*value) != field.text) {
+      ++other_forms_;
+      first_other_form_ = std::min(first_other_form_, reader_.offset_of(field));
+    }
   }
 
   void check_components() {
@@ -234,7 +237,7 @@ struct Check {
   Firsts<std::string> names_;
   Firsts<double> ids_;
   int other_forms_ = 0;
-  std::uint64_t first_other_form_ = 0;
+  std::uint64_t first_other_form_ = std::numeric_limits<std::uint64_t>::max();
   std::vector<Finding> findings_;
 };
 

@@ -25,9 +25,6 @@ std::string lines_of(file::System& system, const std::string& path, std::vector<
       text += "record " + std::to_string(finding.record) +
               (finding.name.empty() ? "" : " \"" + file::named(finding.name) + "\"") + ": ";
     text.append(finding.reason).append(" [").append(finding.rule).append("]");
-    // A name may hold what a terminal obeys.
-    std::ranges::replace_if(
-        text, [](char c) { return (c >= 0 && c < ' ') || c == 0x7F; }, '?');
     lines += path + text::to_utf8(text) + '\n';
   }
   return lines;

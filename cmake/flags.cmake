@@ -6,7 +6,9 @@ if(WIN32)
   add_link_options(-static)
 endif()
 
-if(CMAKE_BUILD_TYPE STREQUAL "Release" AND NOT DEFINED CMAKE_INTERPROCEDURAL_OPTIMIZATION)
+# Not with clang, whose objects hold no code that a target could be linked of that does without (see below).
+if(CMAKE_BUILD_TYPE STREQUAL "Release" AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND
+   NOT DEFINED CMAKE_INTERPROCEDURAL_OPTIMIZATION)
   include(CheckIPOSupported)
   check_ipo_supported(RESULT can_generate_code_when_linking OUTPUT reason LANGUAGES CXX)
   set(CMAKE_INTERPROCEDURAL_OPTIMIZATION ${can_generate_code_when_linking})

@@ -28,9 +28,10 @@ std::optional<std::string> field_of(const std::string& path) {
 }
 
 [[noreturn]] void refuse_folder(const Database& database, const char* name, std::error_code error) {
-  refuse(database, file::failure("create", name, error) +
-                       " It needs the right to write there: copy the database and comp.mdb to a folder of your own, and "
-                       "open the copy.");
+  refuse(database,
+         file::failure("create", name, error) +
+             " It needs the right and the room to write there: copy the database and comp.mdb to a folder of your own, and "
+             "open the copy.");
 }
 
 }  // namespace

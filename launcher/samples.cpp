@@ -46,7 +46,7 @@ void copy(file::System& system, const fs::path& from, const fs::path& to) {
   fs::create_directories(to.parent_path());
   const Alone alone(to.parent_path());
   if (fs::exists(fs::symlink_status(to))) return;
-  const fs::path fresh = to.string() + ".new";
+  const fs::path fresh = to.parent_path() / ".samples.new";
   fs::remove_all(fresh);
   try {
     fill(system, from, fresh);

@@ -51,7 +51,7 @@ CASES = [
      NO_COMPONENTS.replace("comp.mdb", "nowhere") % "endless.mdb" + NO_END % ("endless.mdb", 2), MISSING % "nowhere"),
     # What is wrong with it is said once.
     (True, ["-c", "broken", "sound.mdb", "seven.mdb"], 2,
-     "broken:1: error: record 1: the file ends inside the record: the editor finds no number by a name [unreadable-record]\n" +
+     "broken:1: error: record 1: the file ends inside the record [unreadable-record]\n" +
      UNKNOWN.replace("7", "330") % ("sound.mdb", "broken") + UNKNOWN % ("seven.mdb", "broken"), ""),
     (False, ["seven.mdb"], 0, NO_COMPONENTS % "seven.mdb", ""),
     (False, ["--charge", "seven.mdb"], 0, NO_COMPONENTS % "seven.mdb", ""),

@@ -68,7 +68,9 @@ std::string to_utf8(std::string_view bytes) {
   std::string text;
   while (!bytes.empty()) {
     const auto [code, size] = first_of(bytes);
-    if (size > 1 || code < 0x80) {
+    if (code < ' ' || (code >= 0x7F && code < 0xA0)) {
+      text += '?';
+    } else if (size > 1 || code < 0x80) {
       text += bytes.substr(0, size);
     } else {  // of the code page, none of whose characters takes more than three bytes
       if (code >= 0x800) text += static_cast<char>(0xE0 | code >> 12);

@@ -185,7 +185,7 @@ clean()
 # The samples, copied once, even by several at once, and whatever a kill left of an earlier copy.
 data = os.path.join(root.name, "data")
 own = os.path.join(data, "kelmar-dbedit", "samples")
-os.makedirs(os.path.join(own + ".new", "half"))
+os.makedirs(os.path.join(os.path.dirname(own), ".samples.new", "half"))
 for program in [start(XDG_DATA_HOME=data) for _ in range(4)]:
     ended(program, 7, *opened(os.path.join(own, "complex.MDB")))
 assert os.listdir(os.path.dirname(own)) == ["samples"]
