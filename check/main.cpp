@@ -42,8 +42,6 @@ struct Run {
 
   void check(const std::string& path) {
     const std::string compdb = components.value_or(file::beside(path, "comp.mdb"));
-    if (file::same_place(system, path, compdb))
-      return show(path, {{.rule = "component-database", .reason = "it is checked with the databases that use it"}});
     const bool is_new = !known.contains(compdb);
     auto& its = known[compdb];
     file::Status found;
@@ -52,6 +50,7 @@ struct Run {
         its = std::make_unique<check::Components>(system, compdb);
         if (its->finding) show(compdb, {*its->finding});
       });
+    if (file::same_place(system, path, compdb)) return;  // it is no species database, and has been looked through
     std::vector<check::Finding> findings = check::check_database(system, path, its.get(), charges);
     if (!its)
       findings.push_back({.rule = "no-components", .reason = "its components are not checked, for want of " + compdb});

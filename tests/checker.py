@@ -19,7 +19,6 @@ UNKNOWN = '%s:2: warning: record 1 "a": component 7 is not in %s: it shows as #7
 NO_END = "%s:%d: warning: the file ends without an end marker [no-end-marker]\n"
 CUT = '%s:1: error: record 1 "a": the file ends inside the record; the editor reads no further; no save is made [unreadable-record]\n'
 MISSING = "kelmar-dbcheck: cannot open %s: No such file or directory.\n"
-ITSELF = "comp.mdb:1: note: it is checked with the databases that use it [component-database]\n"
 FILES = {
     "sound.mdb": ONE % 330 + TRAILER,
     "seven.mdb": ONE % 7 + TRAILER,
@@ -42,7 +41,9 @@ CASES = [
     (True, ["cut.mdb", "endless.mdb", "sound.mdb"], 2, CUT % "cut.mdb" + NO_END % ("endless.mdb", 2), ""),
     (True, ["nowhere.mdb", "endless.mdb"], 3, NO_END % ("endless.mdb", 2), MISSING % "nowhere.mdb"),
     (True, ["B\u00f6den, neu.mdb"], 1, NO_END % ("B\u00f6den, neu.mdb", 2), ""),
-    (True, ["comp.mdb"], 0, ITSELF, ""),
+    (True, ["comp.mdb", "sound.mdb"], 0, "", ""),
+    (True, ["-c", "broken", "broken"], 2,
+     "broken:1: error: record 1: the file ends inside the record [unreadable-record]\n", ""),
     (True, ["--charge", "sound.mdb"], 1, 'sound.mdb:1: warning: record 1 "a": its charge is 0, that of its components 1 [charge]\n', ""),
     # Each database has the component database of its own folder, or all have the one that is given.
     (True, [DEEP + "seven.mdb", "seven.mdb"], 1, UNKNOWN % ("seven.mdb", "comp.mdb"), ""),
@@ -84,7 +85,7 @@ def main():
             failures += 1
             print("%s:\n  expected %r\n  got      %r" % (what, expected, got))
 
-    samples = sorted(name for name in os.listdir(SAMPLES) if name.rpartition(".")[2] in ("MDB", "CDB", "ISO", "NIC", "BLI"))
+    samples = sorted(name for name in os.listdir(SAMPLES) if name.rpartition(".")[2] in ("mdb", "MDB", "CDB", "ISO", "NIC", "BLI"))
     expect("the samples", (0, "", ""), outcome(samples, SAMPLES))
     for has_components, arguments, status, out, errors in CASES:
         with tempfile.TemporaryDirectory() as folder:
