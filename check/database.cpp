@@ -27,6 +27,7 @@ std::string component(double number) { return "component " + db::format_number(n
 // than reading the database does.
 template <typename Key>
 struct Firsts {
+  Firsts() { keys_.reserve(db::kMaxRecords); }
   int first_with(Key key) {
     keys_.push_back(std::move(key));
     for (std::size_t slot = std::hash<Key>()(keys_.back());; ++slot) {
@@ -118,7 +119,8 @@ struct Check {
   }
 
   void check_numbers() {
-    if (const Field& name = record_->head[db::kName]; name.number()) check_number(name);  // it takes another form, too
+    // A name that reads as a number takes another form, too.
+    if (const Field& name = record_->head[db::kName]; !name.quoted && name.number()) check_number(name);
     if (const int first = ids_.first_with(number_of(record_->head[db::kId])); first != reader_.number())
       add(Warning, "id-twice", "its ID number is that of record " + std::to_string(first) + ", too");
     for (std::size_t i = db::kDhr; i < record_->head.size(); ++i)  // four of them mean nothing to the editor
