@@ -184,13 +184,12 @@ struct Check {
 
   void check_component(const Field& field, double number) {
     const auto* found = components_->find(number);
-    if (found && found->record <= db::kLookupRecords && found->saved == number) return;
     if (!found || found->record > db::kLookupRecords)
       add(Warning, found ? "component-behind-400" : "component-unknown",
           component(number) + (found ? " stands behind record 400 of " : " is not in ") + file::named(components_->path) +
               ": it shows as #" + db::format_number(number),
           &field);
-    else
+    else if (found->saved != number)
       add(Warning, "component-name",
           component(number) + " shares the name \"" + file::named(found->name) + "\": a change saves " +
               (found->saved ? component(*found->saved) : "no number"),

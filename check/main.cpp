@@ -1,6 +1,7 @@
 // kelmar-dbcheck: says what is wrong with species databases, also what the editor passes over in silence.
 #include <algorithm>
 #include <cstdio>
+#include <exception>
 #include <functional>
 #include <map>
 #include <memory>
@@ -22,13 +23,13 @@ struct Run {
   file::System& system = file::system();
   std::optional<std::string> components{};
   bool charges = false;
-  std::map<std::string, std::unique_ptr<check::Components>> known{};  // component databases by path, null where none is
+  std::map<std::string, std::unique_ptr<check::Components>> known{};  // component databases by path, null where none is read
   int status = 0;
 
   void guarded(const std::function<void()>& step) {
     try {
       step();
-    } catch (const file::Error& error) {
+    } catch (const std::exception& error) {
       std::fprintf(stderr, "kelmar-dbcheck: %s\n", error.what());
       status = kUnreadable;
     }
@@ -42,10 +43,9 @@ struct Run {
 
   void check(const std::string& path) {
     const std::string compdb = components.value_or(file::beside(path, "comp.mdb"));
-    const bool is_new = !known.contains(compdb);
     auto& its = known[compdb];
     file::Status found;
-    if (is_new && (components || system.status(compdb, file::Follow::Links, found) || found.type != file::Type::Missing))
+    if (!its && (components || system.status(compdb, file::Follow::Links, found) || found.type != file::Type::Missing))
       guarded([&] {
         its = std::make_unique<check::Components>(system, compdb);
         if (its->finding) show(compdb, {*its->finding});
@@ -63,7 +63,8 @@ struct Run {
 int main(int argc, char** argv) {
   std::vector<std::string> arguments = file::arguments(argc, argv), files;
   Run run;
-  bool options = true, help = false, known = true;
+  bool options = true;
+  std::FILE* usage = nullptr;
   for (auto at = arguments.begin(); at != arguments.end(); ++at) {
     if (!options || !at->starts_with('-'))
       files.push_back(*at);
@@ -74,11 +75,11 @@ int main(int argc, char** argv) {
     else if (*at == "-c" && at + 1 != arguments.end())
       run.components = *++at;
     else
-      (*at == "--help" ? help : known) = *at == "--help";
+      usage = *at == "--help" ? stdout : stderr;
   }
-  if (help || !known || files.empty()) {
-    std::fputs(kUsage, help ? stdout : stderr);
-    return help ? 0 : kUnreadable;
+  if (usage || files.empty()) {
+    std::fputs(kUsage, usage ? usage : stderr);
+    return usage == stdout ? 0 : kUnreadable;
   }
   for (const std::string& path : files) run.guarded([&] { run.check(path); });
   return run.status;
