@@ -51,7 +51,7 @@ struct Check {
   std::vector<Finding> run(std::string_view path) {
     check_extension(path);
     try {
-      if (check_leading(reader_.read_leading(db::leading_of(kind_))) && check_records()) check_end();
+      if (check_leading(reader_.read_leading(db::leading_of(kind_)))) check_list();
     } catch (const file::Error& error) {
       if (!error.tells_where()) throw;
       add(Error, reader_.number() == 0 ? "first-line" : "unreadable-record",
@@ -95,16 +95,16 @@ struct Check {
     return !leading.begins_with_number;
   }
 
-  bool check_records() {
+  void check_list() {
     while ((record_ = reader_.next())) {
       if (const Field& id = record_->head[db::kId]; reader_.number() == 1 && !id.text.empty() && !id.number())
-        return add(Error, "first-line", "a text stands in the place of the first ID number; no save is made"), false;
+        return add(Error, "first-line", "a text stands in the place of the first ID number; no save is made");
       check_name();
       check_numbers();
       check_components();
       if (charges_ && components_ && kind_ != db::Kind::Isotherm) check_charge();
     }
-    return true;
+    check_end();
   }
 
   void check_name() {
