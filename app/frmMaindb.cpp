@@ -3,6 +3,7 @@
 
 #include <new>
 
+#include "db/format.h"
 #include "db/number.h"
 #include "db/species_reader.h"
 #include "edit/models.h"
@@ -57,7 +58,7 @@ void frmMaindb::click(int control) {
 }
 
 void frmMaindb::Form_Load() {
-  state_.open.compdb = "comp.mdb";
+  state_.open.compdb = db::kComponentFile;
   std::string folder, drive;
   try {
     if (const auto error = system_.current_folder(folder))
@@ -65,7 +66,7 @@ void frmMaindb::Form_Load() {
     folder = working_folder(folder);
     if (const auto error = system_.change_folder(folder))
       throw file::Error("the folder cannot be entered: " + file::reason(error) + ".");
-    drive = db::first_field(system_, "dabase.txt");
+    drive = db::first_field(system_, db::kDriveFile);
   } catch (const file::Error& error) {
     refuse("The editor cannot start" + (folder.empty() ? "" : " in " + file::named(folder)) + ": " + error.what() +
            " Start it from Kelmar, in Kelmar's folder.");
@@ -84,8 +85,8 @@ std::string frmMaindb::take_hand_over(const std::string& folder, const std::stri
   if ((!drive.empty() && system_.change_drive(drive.front())) || system_.change_folder(folder)) return "";
   state_.dialog_folder = folder;
   try {
-    std::string path = system_.path_in_file(db::first_field(system_, "sorptemp.dat"));
-    system_.remove("sorptemp.dat");  // or it would be read again at the next start
+    std::string path = system_.path_in_file(db::first_field(system_, db::kPathFile));
+    system_.remove(db::kPathFile);  // or it would be read again at the next start
     return path;
   } catch (const file::Error&) {
     return "";

@@ -42,7 +42,7 @@ struct Run {
   }
 
   void check(const std::string& path) {
-    const std::string compdb = components.value_or(file::beside(path, "comp.mdb"));
+    const std::string compdb = components.value_or(file::beside(path, db::kComponentFile));
     auto& its = known[compdb];
     file::Status found;
     if (!its && (components || system.status(compdb, file::Follow::Links, found) || found.type != file::Type::Missing))

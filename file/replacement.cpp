@@ -126,11 +126,7 @@ bool TemporaryFile::is_taken() const {
 // Each step would, left out, lose this:
 void TemporaryFile::write(std::string_view content, const std::string* like) {
   // the rest of the content, when a disk fills up or a write comes back short;
-  for (std::size_t at = 0, put = 0; at < content.size(); at += put) {
-    put = 0;
-    require(uninterrupted([&] { return system_.write(writer_.get(), content.substr(at), put); }), "write", path_);
-    if (put == 0) require(make_error_code(std::errc::no_space_on_device), "write", path_);
-  }
+  require(write_all(system_, writer_.get(), content), "write", path_);
   // the file's permissions, and with them somebody's access to the database;
   if (like != nullptr)
     require(uninterrupted([&] { return system_.take_over(writer_.get(), *like); }), "set the permissions of", path_);

@@ -9,8 +9,8 @@
 namespace launcher {
 namespace {
 
-constexpr const char* kPathFile = "sorptemp.dat";
-constexpr const char* kDriveFile = "dabase.txt";
+using db::kDriveFile, db::kPathFile;
+
 // Only the drive is read, which means nothing here. A file with just this content was made by a launcher.
 constexpr std::string_view kOurDrive = "C:,\"made by kelmar-dbedit-open, which removes it\"\r\n";
 
@@ -38,12 +38,8 @@ std::optional<std::string> field_of(const std::string& path) {
 
 std::error_code create(file::System& system, const std::string& path, std::string_view content, file::OpenFile& file) {
   if (const auto error = system.create_new(path, file::Access::Shared, file.handle())) return error;
-  std::error_code error;
-  for (std::size_t put = 0; !error && !content.empty(); content.remove_prefix(put)) {
-    error = file::uninterrupted([&] { return system.write(file.get(), content, put = 0); });
-    if (!error && put == 0) error = make_error_code(std::errc::io_error);
-  }
-  if (!error) error = file::uninterrupted([&] { return system.flush(file.get()); });
+  auto error = file::write_all(system, file.get(), content);
+  if (!error) error = system.flush(file.get());
   if (error) {
     file.close();
     system.remove(path);
@@ -72,7 +68,7 @@ Database enter(file::System& system, const std::string& file) {
   if (const auto error = system.change_folder(database.folder))
     refuse(database, "the folder cannot be entered: " + file::reason(error) + ".");
   file::Status components;
-  if (!system.status("comp.mdb", file::Follow::Links, components) && components.type == file::Type::Missing)
+  if (!system.status(db::kComponentFile, file::Follow::Links, components) && components.type == file::Type::Missing)
     database.notice = "There is no component database, comp.mdb, in " + file::named(database.folder) +
                       ": components will show as numbers until you choose one with the button \"Click here if you would "
                       "like to change the component database\".";

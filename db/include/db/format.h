@@ -22,6 +22,11 @@ inline constexpr std::string_view kLineEnd = "\r\n";
 inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";  // UTF-8; passed over at the start of a file
 inline constexpr char kCtrlZ = 0x1A;  // alone in a field, what old text editors end a file with
 
+// In Kelmar's folder: its drive and the path of a database, which it hands over, and the usual component database.
+inline constexpr const char* kDriveFile = "dabase.txt";
+inline constexpr const char* kPathFile = "sorptemp.dat";
+inline constexpr const char* kComponentFile = "comp.mdb";
+
 inline constexpr std::string_view kTrailerText = "For KELMAR";
 inline constexpr std::string_view kTrailer =
     "0,\"\",0,0,0,0,0,0,0,0\r\n"

@@ -107,6 +107,16 @@ std::error_code uninterrupted(Call call) {
   return error;
 }
 
+// Writes all of it, however little a single write takes. errc::no_space_on_device where one takes nothing.
+inline std::error_code write_all(System& system, Handle handle, std::string_view bytes) {
+  for (std::size_t put = 0; !bytes.empty(); bytes.remove_prefix(put)) {
+    const auto error = uninterrupted([&] { return system.write(handle, bytes, put = 0); });
+    if (error) return error;
+    if (put == 0) return make_error_code(std::errc::no_space_on_device);
+  }
+  return {};
+}
+
 // Tries for about a second, until an attempt is true.
 template <typename Attempt>
 bool patiently(System& system, Attempt attempt) {
